@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: MIT
+#include "base/mdlFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <functional>
+#include <set>
+#include <utility>
+
+#include "tests/support/data_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kChildCannot = 200;  // no result of a function under test
+
+/// The names in a folder, hidden ones too, sorted, a blank between them.
+std::string listing(const fs::path& folder) {
+  std::set<std::string> names;
+  for (const auto& entry : fs::directory_iterator(folder)) names.insert(entry.path().filename());
+  std::string text;
+  for (const auto& name : names) text += (text.empty() ? "" : " ") + name;
+  return text;
+}
+
+/// The exit code of a child that runs `work`, -1 when it was killed.
+int inChild(const std::function<int()>& work) {
+  const auto child = ::fork();
+  if (child == 0) ::_exit(work());
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+/// The same without the rights of the superuser, whom no permission stops.
+int asOrdinaryUser(const std::function<int()>& work) {
+  return inChild([&] {
+    if (::geteuid() == 0 && (::setgid(65534) != 0 || ::setuid(65534) != 0)) return kChildCannot;
+    return work();
+  });
+}
+
+/// Files of this process cannot grow beyond `bytes`: a write over the limit is cut short and the
+/// next one fails, as on a full disk. Gives back the limit that stood before.
+rlim_t limitFiles(rlim_t bytes) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit limit{};
+  ::getrlimit(RLIMIT_FSIZE, &limit);
+  const rlim_t before = std::exchange(limit.rlim_cur, bytes);
+  ::setrlimit(RLIMIT_FSIZE, &limit);
+  return before;
+}
+
+class File : public ::testing::Test {
+ protected:
+  File() { ::chmod(folder_.c_str(), 0777); }
+
+  std::string contents(const std::string& name) const {
+    return vktest::DataFolder::bytesOf(folder_ / name);
+  }
+  void put(const std::string& name, const std::string& bytes) const { files_.put(name, bytes); }
+  void mode(const std::string& name, mode_t mode) const { ::chmod((folder_ / name).c_str(), mode); }
+  fs::perms modeOf(const std::string& name) const {
+    return fs::status(folder_ / name).permissions();
+  }
+
+  vktest::DataFolder files_;
+  fs::path folder_ = files_.path();
+};
+
+// --- writing ----------------------------------------------------------------------------------
+
+TEST_F(File, WritesAndReplacesAndKeepsThePermissions) {
+  const auto mask = ::umask(027);
+  const auto path = folder_ / "A.dat";
+  EXPECT_EQ(vk::writeWholeFile(path, "first\n"), vk::kFileOk);
+  EXPECT_EQ(modeOf("A.dat"), fs::perms{0640});
+  for (const mode_t bits : {0600u, 0666u, 0755u}) {
+    mode("A.dat", bits);
+    EXPECT_EQ(vk::writeWholeFile(path, std::string("\0\xFF\r\n", 4)), vk::kFileOk);
+    EXPECT_EQ(modeOf("A.dat"), fs::perms{bits});
+  }
+  EXPECT_EQ(contents("A.dat"), std::string("\0\xFF\r\n", 4));
+  EXPECT_EQ(vk::writeTextFile(path, "a\r\nb"), vk::kFileOk);
+  EXPECT_EQ(contents("A.dat"), "a\r\nb\r\n");
+  EXPECT_EQ(vk::writeWholeFile(path, ""), vk::kFileOk);
+  EXPECT_EQ(contents("A.dat"), "");
+  EXPECT_EQ(listing(folder_), "A.dat");
+  ::umask(mask);
+}
+
+TEST_F(File, WritesThroughLinks) {
+  put("real/A.dat", "old");
+  fs::create_symlink("real/A.dat", folder_ / "link");
+  fs::create_symlink(folder_ / "link", folder_ / "chain");
+  fs::create_symlink("real/B.dat", folder_ / "dangling");
+  fs::create_symlink("loop", folder_ / "loop");
+
+  EXPECT_EQ(vk::writeWholeFile(folder_ / "chain", "new"), vk::kFileOk);
+  EXPECT_EQ(vk::writeWholeFile(folder_ / "dangling", "made"), vk::kFileOk);
+  EXPECT_EQ(vk::writeWholeFile(folder_ / "loop", "x"), vk::kFileOther);
+  EXPECT_EQ(contents("real/A.dat") + contents("real/B.dat"), "newmade");
+  EXPECT_TRUE(fs::is_symlink(folder_ / "link") && fs::is_symlink(folder_ / "chain") &&
+              fs::is_symlink(folder_ / "dangling"));
+  EXPECT_EQ(listing(folder_) + listing(folder_ / "real"),
+            "chain dangling link loop realA.dat B.dat");
+}
+
+TEST_F(File, RefusesWhatIsNoPlaceForAFile) {
+  fs::create_directory(folder_ / "sub");
+  put("plain", "old");
+  ::mkfifo((folder_ / "pipe").c_str(), 0666);
+  for (const char* name : {"sub", "none/A.dat", "plain/A.dat", "pipe", "/dev/full"}) {
+    EXPECT_EQ(vk::writeWholeFile(folder_ / name, "x"), vk::kFileOther) << name;
+  }
+  for (const std::string& name :
+       {std::string("sub/"), std::string("plain\0x", 7), std::string(256, 'n')}) {
+    EXPECT_EQ(vk::writeWholeFile(folder_ / name, "x"), vk::kFileBadName) << name;
+  }
+  EXPECT_EQ(vk::writeWholeFile("", "x"), vk::kFileBadName);
+  EXPECT_EQ(contents("plain") + listing(folder_), "oldpipe plain sub");
+  EXPECT_EQ(vk::writeWholeFile(folder_ / std::string(255, 'n'), "x"), vk::kFileOk);
+}
+
+TEST_F(File, LeavesProtectedFilesAlone) {
+  put("locked.dat", "old");
+  mode("locked.dat", 0444);
+  put("closed/A.dat", "old");
+  mode("closed/A.dat", 0666);
+  mode("closed", 0555);
+  for (const char* name : {"locked.dat", "closed/A.dat", "closed/B.dat"}) {
+    EXPECT_EQ(asOrdinaryUser([&] { return vk::writeWholeFile(folder_ / name, "new"); }),
+              vk::kFileDenied)
+        << name;
+  }
+  EXPECT_EQ(contents("locked.dat") + contents("closed/A.dat"), "oldold");
+  EXPECT_EQ(listing(folder_) + " " + listing(folder_ / "closed"), "closed locked.dat A.dat");
+  mode("closed", 0777);
+}
+
+TEST_F(File, FullDiskLeavesTheOldFileWhole) {
+  put("A.dat", "old");
+  const std::string big(10000, 'x');
+  const auto unlimited = limitFiles(0);
+  for (const rlim_t room : {0u, 1u, 4096u, 10000u, 10001u}) {
+    limitFiles(room);
+    EXPECT_EQ(vk::writeWholeFile(folder_ / "new.dat", big + "yz"), vk::kFileOther) << room;
+    EXPECT_EQ(vk::writeTextFile(folder_ / "A.dat", big), vk::kFileOther) << room;
+    EXPECT_EQ(contents("A.dat") + listing(folder_), "oldA.dat") << room;
+  }
+  limitFiles(10002);
+  EXPECT_EQ(vk::writeTextFile(folder_ / "A.dat", big), vk::kFileOk);
+  limitFiles(unlimited);
+  EXPECT_EQ(contents("A.dat"), big + "\r\n");
+}
+
+TEST_F(File, AnErrorSticksToTheWriter) {
+  put("A.dat", "old");
+  vk::clsFileWriter writer;
+  ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
+  const auto unlimited = limitFiles(100);
+  EXPECT_EQ(writer.write(std::string(60, 'a')), vk::kFileOk);
+  EXPECT_EQ(writer.write(std::string(60, 'b')), vk::kFileOther);
+  limitFiles(unlimited);
+  // There is room again, but the file has a hole in its story.
+  EXPECT_EQ(writer.write("c"), vk::kFileOther);
+  EXPECT_EQ(writer.commit(), vk::kFileOther);
+  EXPECT_EQ(writer.write("d"), vk::kFileOther);
+  EXPECT_EQ(contents("A.dat") + listing(folder_), "oldA.dat");
+
+  ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
+  EXPECT_EQ(writer.write("again"), vk::kFileOk);
+  EXPECT_EQ(writer.commit(), vk::kFileOk);
+  EXPECT_EQ(contents("A.dat"), "again");
+}
+
+TEST_F(File, NothingStandsUnderTheNameWithoutACommit) {
+  vk::clsFileWriter writer;
+  EXPECT_EQ(writer.write("x"), vk::kFileOther);
+  EXPECT_EQ(writer.commit(), vk::kFileOther);
+
+  ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
+  EXPECT_TRUE(writer.isOpen());
+  EXPECT_EQ(writer.write("part"), vk::kFileOk);
+  EXPECT_EQ(listing(folder_).rfind(".A.dat.", 0), 0u) << listing(folder_);
+  EXPECT_EQ(writer.commit(), vk::kFileOk);
+  EXPECT_FALSE(writer.isOpen());
+  EXPECT_EQ(writer.commit(), vk::kFileOther);
+  {
+    vk::clsFileWriter other;
+    ASSERT_EQ(other.open(folder_ / "A.dat"), vk::kFileOk);
+    EXPECT_EQ(other.write("new"), vk::kFileOk);
+    ASSERT_EQ(other.open(folder_ / "B.dat"), vk::kFileOk);
+    other.discard();
+    EXPECT_EQ(other.commit(), vk::kFileOther);
+    ASSERT_EQ(other.open(folder_ / "C.dat"), vk::kFileOk);
+  }
+  EXPECT_EQ(contents("A.dat") + listing(folder_), "partA.dat");
+
+  EXPECT_EQ(inChild([&] {
+              if (writer.open(folder_ / "A.dat") == vk::kFileOk && writer.write("x") == vk::kFileOk)
+                ::raise(SIGKILL);
+              return 1;
+            }),
+            -1);
+  EXPECT_EQ(contents("A.dat"), "part");
+}
+
+TEST_F(File, TwoWritersOfOneTargetDoNotMix) {
+  vk::clsFileWriter first, second;
+  ASSERT_EQ(first.open(folder_ / "A.dat") + second.open(folder_ / "A.dat"), 0);
+  EXPECT_EQ(first.write("first") + second.write("second, longer"), 0);
+  EXPECT_EQ(second.commit(), vk::kFileOk);
+  EXPECT_EQ(first.commit(), vk::kFileOk);
+  EXPECT_EQ(contents("A.dat") + listing(folder_), "firstA.dat");
+}
+
+TEST_F(File, TargetThatBecomesAFolderMeanwhile) {
+  vk::clsFileWriter writer;
+  ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
+  fs::create_directory(folder_ / "A.dat");
+  EXPECT_EQ(writer.commit(), vk::kFileOther);
+  EXPECT_EQ(listing(folder_), "A.dat");
+}
+
+// --- reading ----------------------------------------------------------------------------------
+
+TEST_F(File, ReadsLinesWithAnyEnd) {
+  const struct {
+    std::string bytes, text;
+  } rows[] = {{"", ""},
+              {"a", "a\r\n"},
+              {"a\r\nb\nc\rd", "a\r\nb\r\nc\r\nd\r\n"},
+              {"\r\n\r\na\r", "\r\n\r\na\r\n"},
+              {"\r\r\n\n\n\r", "\r\n\r\n\r\n\r\n\r\n"},
+              {std::string("a\0b\n\xFF\x1A", 6), std::string("a\0b\r\n\xFF\x1A\r\n", 9)}};
+  for (const auto& row : rows) {
+    put("A.hed", row.bytes);
+    std::string text = "before";
+    EXPECT_EQ(vk::readTextFile(folder_ / "A.hed", text), vk::kFileOk);
+    EXPECT_EQ(text, row.text);
+  }
+  // Such a file says that it is empty.
+  std::string text;
+  EXPECT_EQ(vk::readTextFile("/proc/self/status", text), vk::kFileOk);
+  EXPECT_NE(text.find("\r\nPid:"), std::string::npos);
+  EXPECT_EQ(vk::readTextFile("/proc/self/status", text, 100), vk::kFileNoMemory);
+}
+
+TEST_F(File, ReadFailures) {
+  fs::create_directory(folder_ / "sub");
+  put("plain", "0123456789");
+  ::mkfifo((folder_ / "pipe").c_str(), 0666);
+  const auto read = [&](const std::string& name, std::size_t limit = 100) {
+    std::string text = "before";
+    const auto error = vk::readTextFile(folder_ / name, text, limit);
+    return std::to_string(error) + " " + text;
+  };
+  EXPECT_EQ(read("none"), "53 ");
+  for (const char* name : {"none/A.hed", "plain/A.hed", "sub", "pipe"}) {
+    EXPECT_EQ(read(name), "75 ") << name;
+  }
+  EXPECT_EQ(read(std::string("plain\0x", 7)) + read(std::string(300, 'n')), "52 52 ");
+  EXPECT_EQ(read("plain", 9), "7 ");
+  EXPECT_EQ(read("plain", 10) + read("plain", SIZE_MAX), "0 0123456789\r\n0 0123456789\r\n");
+  std::string text;
+  EXPECT_EQ(vk::readTextFile("", text), vk::kFileBadName);
+  mode("plain", 0200);
+  EXPECT_EQ(asOrdinaryUser([&] { return vk::readTextFile(folder_ / "plain", text); }),
+            vk::kFileDenied);
+}
+
+// --- finding ----------------------------------------------------------------------------------
+
+TEST_F(File, FindsAnExtensionOfEitherCase) {
+  for (const char* name : {"A.dat", "B.DAT", "B.Dat", "C.D.HED", "noext", ".hed", "F.DAT"}) {
+    put(name, "x");
+  }
+  fs::create_directory(folder_ / "F.dat");
+  fs::create_symlink("A.dat", folder_ / "L.dat");
+  fs::create_symlink("gone", folder_ / "M.dat");
+  std::string found;  // "-" for none
+  for (const char* wanted : {"A.dat", "A.dAt", "a.dat",   "A.da",       "A",       "A.",   "A.hed",
+                             "B.Dat", "B.dat", "C.d.HED", "C.D.hed",    "NOEXT",   ".HED", "F.dat",
+                             "L.DAT", "M.dat", "M.DAT",   "none/A.dat", "A.dat/A", ""}) {
+    const auto file = vk::findFileAnyCase(folder_ / wanted);
+    found += file ? file->string().substr(folder_.string().size() + 1) + " " : "- ";
+  }
+  EXPECT_EQ(found, "A.dat A.dat - - - - - B.Dat B.DAT - C.D.HED - - F.DAT L.dat - - - - - ");
+  // Beside the program, and in a folder that cannot be read.
+  EXPECT_EQ(inChild([&] {
+              fs::current_path(folder_);
+              return vk::findFileAnyCase("A.DAT") == fs::path("A.dat") ? 0 : 1;
+            }),
+            0);
+  mode("", 0300);
+  EXPECT_EQ(asOrdinaryUser([&] { return vk::findFileAnyCase(folder_ / "A.DAT") ? 1 : 0; }), 0);
+  mode("", 0700);
+}
+
+TEST(FileError, NumbersOfTheSystem) {
+  std::string numbers;
+  for (const int error : {0, ENOENT, EACCES, EPERM, EROFS, ETXTBSY, EBUSY, EINVAL, ENAMETOOLONG,
+                          EILSEQ, EMFILE, ENFILE, ENOMEM, ENOSPC, EIO, ENOTDIR, -1}) {
+    numbers += std::to_string(vk::fileErrorOf(error)) + " ";
+  }
+  EXPECT_EQ(numbers, "0 53 70 70 70 70 70 52 52 52 67 67 7 75 75 75 75 ");
+}
+
+}  // namespace

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "base/mdlGeneral.h"
+
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <limits>
+
+#include "tests/support/data_folder.h"
+#include "tests/support/fake_desktop.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Lists, Fields) {
+  EXPECT_EQ(vk::fieldCount("", ',') + vk::fieldCount("a", ','), 0);
+  EXPECT_EQ(vk::fieldCount("a,b,,", ','), 3);
+  EXPECT_EQ(vk::fieldCount("a b,c", ' '), 1);
+  const auto fields = [](std::string_view text, std::initializer_list<int32_t> numbers) {
+    std::string all;
+    for (const auto n : numbers) all += vk::listField(text, n) + "|";
+    return all;
+  };
+  EXPECT_EQ(fields(" a ,,c", {1, 2, 3, 4, 0, -1, 2000000000}), " a ||c|||||");
+  EXPECT_EQ(fields("abc", {1, 2}) + fields("", {1, 2}), "abc||||");
+  EXPECT_EQ(vk::dropLastComma("1,2") + "|" + vk::dropLastComma("1,,") + "|" +
+                vk::dropLastComma(",") + vk::dropLastComma(""),
+            "1,2|1,|");
+}
+
+TEST(Lists, KeyValueAndLeftOf) {
+  std::string values;
+  for (const char* key : {"NUM_BACK ", "XY_GND ", "MES_BACK ", "BAR_TOP ", "LAST ", "NO ", "last "})
+    values += vk::keyValue(
+                  "NUM_BACK 1,2\r\nXY_GND   7 \nMES_BACK \r\nCAP BAR_TOP 9\rBAR_TOP 5\r\nLAST a b ",
+                  key) +
+              "|";
+  EXPECT_EQ(values, "1,2|7||9|a b|||") << "the first occurrence, wherever it stands";
+  EXPECT_EQ(vk::keyValue("", "KEY ") + vk::keyValue("KEY ", "KEY "), "");
+
+  std::string lefts;
+  for (const char* text : {"abc\r\ndef", "abc\ndef", "\nabc", "a\nb\nc", "abc", ""})
+    lefts += vk::leftOf(text, "\n") + "|";
+  EXPECT_EQ(lefts, "abc|ab|||abc||");
+  EXPECT_EQ(vk::leftOf("name.DAT.HED", ".HED"), "name.DA");
+}
+
+TEST(Paths, WithBackslashAndWhatIsMissing) {
+  std::string paths;
+  for (const char* path : {"/data", "/data/", "d:\\", ""}) paths += vk::withBackslash(path) + "|";
+  EXPECT_EQ(paths, "/data/|/data/|d:\\|/|");
+
+  const vktest::DataFolder folder;
+  folder.put("A.dat", "x");
+  fs::create_directory(folder.path() / "sub.dat");
+  std::string missing;  // as a folder and as a file
+  for (const char* name : {"", "A.dat", "A.DAT", "a.dat", "sub.dat", "none/A.dat"}) {
+    const auto path = (folder.path() / name).string();
+    missing += fmt::format("{}{} ", vk::folderMissing(path), vk::fileMissing(path));
+  }
+  EXPECT_EQ(missing, "01 10 10 11 01 11 ");
+  EXPECT_EQ(vk::folderMissing("") + vk::fileMissing(""), 2);
+}
+
+class General : public ::testing::Test {
+ protected:
+  General() { vk::gDefaultFolder = "/data/"; }
+  ~General() override { vk::gDefaultFolder.clear(); }
+
+  vktest::FakeDesktop desktop_;
+};
+
+TEST_F(General, AskOverwriteIsYesButForNo) {
+  desktop_.answers = {vk::BoxAnswer::kYes, vk::BoxAnswer::kNo, vk::BoxAnswer::kClosed};
+  for (const int32_t result : {1, 0, 1}) {
+    EXPECT_EQ(vk::askOverwrite("/data/A.dat"), result);
+    EXPECT_EQ(desktop_.takeLog(),
+              "box[File Process][/data/A.dat\r\nThis file name is already in use.Overwrite?]"
+              "[yes-no][exclamation]\n");
+  }
+}
+
+TEST_F(General, FileDialogKeepsTheFolder) {
+  desktop_.files = {"/other/place/A.set", "", "/A.set", "A.set", "/only/folder/"};
+  std::string seen;
+  for (const auto kind :
+       {vk::FileDialogKind::kSave, vk::FileDialogKind::kOpen, vk::FileDialogKind::kOpen,
+        vk::FileDialogKind::kOpen, vk::FileDialogKind::kOpen}) {
+    const auto chosen = vk::fileDialog(kind, "Title", "Text|*.set|");
+    seen += desktop_.takeLog() + chosen.name + " " + chosen.path + " " + vk::gDefaultFolder + "\n";
+  }
+  EXPECT_EQ(seen,
+            "save[Title][Text|*.set|][/data/]\nA.set /other/place/A.set /other/place/\n"
+            "open[Title][Text|*.set|][/other/place/]\n  /other/place/\n"
+            "open[Title][Text|*.set|][/other/place/]\nA.set /A.set /\n"
+            "open[Title][Text|*.set|][/]\nA.set A.set /\n"
+            "open[Title][Text|*.set|][/]\n  /\n");
+}
+
+TEST_F(General, WaitSecondsYieldsUntilTheTimeHasPassed) {
+  std::string moved;
+  for (const double seconds : {0.2, 0.0004, 0.0, -5.0, std::nan("")}) {
+    desktop_.clock = 0;
+    vk::waitSeconds(seconds);
+    moved += fmt::format("{} ", desktop_.clock);
+  }
+  EXPECT_EQ(moved, "200 1 0 0 0 ");
+  EXPECT_EQ(desktop_.yieldCount, 2);
+}
+
+/// A clock whose yields come back early, as a queue full of events does.
+class BusyDesktop : public vktest::FakeDesktop {
+ public:
+  void waitEvents(int) override {
+    clock = (clock + 10) & 0xFFFFFFFF;
+    doEvents();
+  }
+};
+
+TEST(Wait, GoesOnAcrossTheWrapOfTheCounterAndLeavesWhenTheProgramEnds) {
+  BusyDesktop desktop;
+  desktop.clock = 0xFFFFFFFF - 55;
+  vk::waitSeconds(0.1);
+  EXPECT_EQ(desktop.yieldCount, 10);
+  EXPECT_EQ(desktop.clock, 44);
+  desktop.yields = {[] {}, [&] { desktop.endProgram(); }};
+  vk::waitSeconds(3600);
+  EXPECT_EQ(desktop.clock, 64);
+  vk::waitSeconds(3600);
+  EXPECT_EQ(desktop.clock, 64);
+}
+
+TEST(Progress, Percent) {
+  std::string full, working;
+  for (const double fraction : {0.0, 0.004999, 0.005, 0.015, 0.494, 0.495, 0.994999, 0.995, 1.0,
+                                -1.0, 1e300, std::nan("")}) {
+    full += fmt::format("{} ", vk::progressPercent(fraction, true));
+    working += fmt::format("{} ", vk::progressPercent(fraction, false));
+  }
+  EXPECT_EQ(full, "0 0 1 2 49 50 99 100 100 0 100 0 ");
+  EXPECT_EQ(working, "1 1 1 2 49 50 99 99 99 1 99 1 ");
+}
+
+/// Notes each operation; a character is 8 by 16.
+class RecordingPicture : public vk::clsPicture {
+ public:
+  int width() const override { return 200; }
+  int height() const override { return 20; }
+  void clear(vk::Colour colour) override { log += fmt::format("clear {:06X}, ", colour); }
+  void filledBox(int, int, int, int, vk::Colour) override { log += "filled, "; }
+  void invertedBox(int x1, int y1, int x2, int y2, vk::Colour colour) override {
+    log += fmt::format("inverted {} {} {} {} {:06X}, ", x1, y1, x2, y2, colour);
+  }
+  void text(int x, int y, const std::string& text, vk::Colour colour) override {
+    log += fmt::format("{} at {} {} {:06X}, ", text, x, y, colour);
+  }
+  int textWidth(const std::string& text) const override { return 8 * int(text.size()); }
+  int textHeight(const std::string&) const override { return 16; }
+  void refresh() override { log += "shown\n"; }
+
+  std::string log;
+};
+
+TEST(Progress, Bar) {
+  RecordingPicture picture;
+  for (const double fraction : {0.0, 0.5, 1.0}) vk::progressBar(picture, fraction, true);
+  vk::progressBar(picture, 0, false);
+  EXPECT_EQ(picture.log,
+            "clear FFFFFF, 0% at 92 2 800000, shown\n"
+            "clear FFFFFF, 50% at 88 2 800000, inverted 0 0 99 19 800000, shown\n"
+            "clear FFFFFF, 100% at 84 2 800000, inverted 0 0 199 19 800000, shown\n"
+            "clear FFFFFF, 1% at 92 2 800000, inverted 0 0 1 19 800000, shown\n");
+}
+
+}  // namespace
