@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// MON, the only command that retries. Transfer failures and bad replies have an allowance of one
+// retry each; the failure that exceeds its allowance is not counted.
+#include <fmt/format.h>
+
+#include "base/clsFlagGuard.h"
+#include "base/mdlGeneral.h"
+#include "link/mdlBoxTable.h"
+#include "link/mdlExchange.h"
+#include "link/mdlUSBCommand.h"
+
+namespace vk {
+
+namespace {
+
+constexpr double kAfterTransferFailure = 1.0;  // seconds
+constexpr double kAfterBadReply = 15.0;
+constexpr int32_t kRequestLength = 4;
+
+enum class Attempt { kGood, kNotSent, kNotReceived, kBadReply };
+
+/// A wait lets other commands run: a reconnect may give the box another device, and every command
+/// that returns lowers the flag. So each attempt begins anew.
+Attempt attempt(int32_t serial, const std::string& request) {
+  gUSBBusy = 1;
+  const int32_t handle = slotOf(serial);
+  if (sendText(handle, request, kRequestLength) != kUsbWriteOk) return Attempt::kNotSent;
+  std::string reply;
+  if (receiveText(handle, reply) < 1) return Attempt::kNotReceived;
+  if (reply.front() != '+' && reply.front() != '-') return Attempt::kBadReply;
+  gLastReply = reply;
+  return Attempt::kGood;
+}
+
+int32_t& counterOf(Attempt failure) {
+  if (failure == Attempt::kNotSent) return gCommSendErrCnt;
+  return failure == Attempt::kNotReceived ? gCommRecvErrCnt : gCommContentErrCnt;
+}
+
+}  // namespace
+
+int32_t usbMON(int32_t serial, int selector) {
+  const FlagGuard busy(gUSBBusy);
+  const std::string request = fmt::format("MON{}", selector);
+  bool transferRetried = false;
+  bool replyRetried = false;
+  while (!desktop().ending()) {
+    const Attempt outcome = attempt(serial, request);
+    if (outcome == Attempt::kGood) return kUsbOk;
+    const bool badReply = outcome == Attempt::kBadReply;
+    bool& retried = badReply ? replyRetried : transferRetried;
+    if (retried) return badReply ? kUsbUnreadable : kUsbNoReply;
+    retried = true;
+    waitSeconds(badReply ? kAfterBadReply : kAfterTransferFailure);
+    countUp(counterOf(outcome));
+    if (gLinkEvents.countersChanged) gLinkEvents.countersChanged();
+  }
+  return kUsbNoReply;
+}
+
+}  // namespace vk

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "link/mdlExchange.h"
+
+#include "tests/support/link_fixture.h"
+#include "tests/support/text_table.h"
+
+namespace vk {
+namespace {
+
+using vktest::library;
+
+class ExchangeTest : public vktest::LinkTest {};
+
+TEST_F(ExchangeTest, SendsNoMoreThanTheTextHoldsAndReadsIntoFreshBlanks) {
+  for (const int32_t length : {kWholeText, 5, 6, 10}) EXPECT_EQ(sendText(3, "STA200", length), 64);
+  EXPECT_EQ(library().takeTranscript(),
+            "write(3,STA200)\nwrite(3,STA20)\nwrite(3,STA200)\nwrite(3,STA200)\n");
+  std::string reply = "something longer that was here before";
+  library().reply(std::string("\0x\0", 3));
+  EXPECT_EQ(receiveText(1, reply), 80);
+  EXPECT_EQ(reply, padded(std::string("\0x\0", 3)));
+  library().fail(0);
+  EXPECT_EQ(receiveText(1, reply), 0);
+  EXPECT_EQ(reply, padded(""));
+}
+
+TEST_F(ExchangeTest, NumberOfAnErrorReply) {
+  vktest::expectAnswers(
+      "ERR,50=50|ERR,5 =5|ERR,00=0|ERR-42=42|ERR,507=50|ERR,xx=100|ERR=100|ERR,-1=100|err,50=100|"
+      " ERR,50=100|=100|END=100",
+      [](const std::string& reply) { return std::to_string(replyErrorNumber(reply)); });
+}
+
+TEST_F(ExchangeTest, AQuestionWithoutAnAnswerIsEmpty) {
+  library().reply("0,1");
+  EXPECT_EQ(askText(2, "LST1"), padded("0,1"));
+  library().writeResults = {65};
+  EXPECT_EQ(askText(2, "LST1"), std::nullopt);
+  library().fail(0);
+  EXPECT_EQ(askText(2, "LST1"), std::nullopt);
+  EXPECT_EQ(library().takeTranscript(),
+            "write(2,LST1)\nread(2)\nwrite(2,LST1)\nwrite(2,LST1)\nread(2)\n");
+}
+
+TEST_F(ExchangeTest, KeepsTheReplyOnlyWhenGoodAndAsked) {
+  struct Row {
+    const char* reply;
+    Keep keep;
+    const char* instead;
+    std::string kept;
+  };
+  const Row rows[] = {{"END", Keep::kReply, "", padded("END")},
+                      {"END", Keep::kReply, "01", "01"},
+                      {"END", Keep::kNothing, "01", "old"},
+                      {"ERR,50", Keep::kReply, "01", "old"}};
+  for (const Row& row : rows) {
+    gLastReply = "old";
+    library().reply(row.reply);
+    const bool good = exchange({.handle = 1,
+                                .request = "XYZ",
+                                .keep = row.keep,
+                                .keepInstead = row.instead,
+                                .onFailure = OnFailure::kSilent}) == 0;
+    EXPECT_EQ(good, row.reply[1] == 'N');
+    EXPECT_EQ(gLastReply, row.kept);
+  }
+}
+
+TEST_F(ExchangeTest, BusyFromTheFirstWriteUntilAfterTheBox) {
+  library().answer = [&](int32_t, const std::string&) {
+    EXPECT_NE(gUSBBusy, 0);
+    return vktest::ScriptedLibrary::Reply{"ERR,50", 80};
+  };
+  EXPECT_EQ(exchange({.handle = 4, .request = "RUN"}), 50);
+  EXPECT_EQ(gUSBBusy, 0);
+  EXPECT_EQ(library().takeTranscript(),
+            "write(4,RUN)\nread(4)\n"
+            "busy box[USB Error][CF card is not inserted.[ERROR-50]][ok][exclamation]\n");
+}
+
+}  // namespace
+}  // namespace vk
