@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// The three texts in which conditions pass between program and instrument: the settings string,
+// the unit list and the coefficient list. The decoders write to the box-table row of a serial.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "conditions/mdlMeasureSetting.h"
+
+namespace vk {
+
+/// The settings strings, unit and coefficient lists of an instrument whose contents are not normal.
+inline constexpr std::string_view kDefaultSetLow =
+    "405050505PSPSPSPSCUUUU+010N000N000N000200U000128K";
+inline constexpr std::string_view kDefaultSetHigh =
+    "40505050507070707CUUUU+010N000N000N000200U000128K2222";
+inline constexpr std::string_view kDefaultUnits = "ue,ue,ue,ue";
+inline constexpr std::string_view kDefaultCoeffs = "1.000000,1.000000,1.000000,1.000000";
+
+/// 0, or 1 and the row keeps what it had.
+[[nodiscard]] int32_t decodeSettingString(int32_t serial, std::string_view text);
+/// 0, or 1 at the first empty item; the channels before it are stored.
+[[nodiscard]] int32_t decodeUnitList(int32_t serial, std::string_view text);
+/// 0, or 1 at the first empty, unreadable or zero item; the channels before it are stored.
+[[nodiscard]] int32_t decodeCoeffList(int32_t serial, std::string_view text);
+
+/// LST 0, 1, 2 with their decoders; the sum of the decoders' results.
+[[nodiscard]] int32_t readMeasureSetting(int32_t serial);
+/// SET, UNT, CEF with the default texts; the sum of the three results.
+int32_t writeDefaultSetting(int32_t serial);
+
+/// The level field of one channel, from the text of its level box. Usually four characters; a
+/// level that rounds to zero from below takes five on the VK-480Q family ("P-004"), as it is sent.
+/// Empty when the slope is not off and the text is no number.
+std::optional<std::string> buildLevelField(int32_t family, int32_t slope,
+                                           std::string_view levelText);
+/// The settings string of a record, in the form of the record's model (any model that is not of
+/// the VK-240Q family gives the longer form). Empty when a level text in use is no number.
+std::optional<std::string> buildSettingString(const MeasureSetting& record,
+                                              const PerChannel<std::string>& levelTexts);
+
+}  // namespace vk
