@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// The configuration file in the program's data folder, the defaults of everything it holds, and the
+// folder of temporary files beside it. The file is read at start and in a reconnect, and written at
+// the end and before a reconnect. A file that cannot be read, or stops being readable half way, is
+// no failure: what was not read keeps its default.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "shell/mdlConfigText.h"
+
+namespace vk {
+
+/// The monitor cycle may run; set by setDefaults and never cleared.
+extern bool gMonitorRun;
+/// Result of the last scan for boxes, a StartMode.
+extern int32_t gStartMode;
+
+/// Every setting, record and table of the program as before any file was read; the read time-out
+/// of the instrument library goes to its default.
+void setDefaults();
+
+/// Reads the file, which is written from the present settings when it is missing, and makes the
+/// folder of temporary files.
+void readConfig();
+/// Replaces the file. A failure is not reported: the old file then stays whole.
+void writeConfig();
+/// Deletes every file of the temporary folder (only when `all` is set), then the files named in
+/// `fileList`, a CR LF ended line each, up to the first empty line. Failures are not reported.
+void clearTempFiles(bool all, std::string_view fileList);
+
+/// Full name of the configuration file and the folder of temporary files (with a separator at its
+/// end); the folders above are made. Empty when the platform has no data folder.
+std::string configPath();
+std::string tempFolder();
+
+}  // namespace vk

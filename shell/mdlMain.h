@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Start, run and end of the program as fixed orders of stages. What needs a window comes in as a
+// handler; an empty handler is skipped.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "link/mdlConnection.h"
+#include "shell/mdlConfig.h"
+#include "shell/mdlStart.h"
+
+namespace vk {
+
+/// The windows that the start leads to.
+struct MainStages {
+  std::function<void()> showStart;           ///< modal; sets gStartMode and gStartOK
+  std::function<void()> showMain;            ///< not modal
+  std::function<void()> openStoredMonitors;  ///< every monitor that was on
+  std::function<void()> showUpgrade;         ///< modal
+};
+
+/// The whole run. Returns when the program is to end.
+void Main(const MainStages& stages);
+
+/// One pass over all monitors; true while a monitor is on. Unset means that none is.
+extern std::function<bool()> gMonitorCycle;
+/// Pass after pass, each followed by all pending events, until the program is ending. With no
+/// monitor on it sleeps until an event comes.
+void monitorLoop();
+
+/// The end of the program, from the unload of the main window: configuration, temporary files
+/// (`fileList` names further ones), library, end. A running recording goes on in its box.
+void shutDown(std::string_view fileList);
+
+/// What a reconnect does to the windows.
+struct ReconnectSteps {
+  std::function<void(bool on)> statusTimer;
+  std::function<void()> unloadMonitors;      ///< numerical, wave, X-Y, bar, circle
+  LogBox log;                                ///< hidden
+  std::function<void()> openStoredMonitors;  ///< every monitor that was on
+  std::function<void()> rebuildPanels;       ///< box list and panels of the main window
+};
+
+/// Looks for the boxes again; the monitors' arrangement survives through the configuration file.
+/// A call from inside a running reconnect does nothing.
+void autoReconnect(const ReconnectSteps& steps);
+/// The question before a reconnect by hand; false after Cancel.
+bool askReconnect();
+
+}  // namespace vk
