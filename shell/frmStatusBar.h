@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// The small progress window of long work: a caption, two lines and a bar. It keeps the other
+// windows from taking input while it is shown, and closes only when the work closes it.
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+class QLabel;
+
+namespace vk {
+
+class clsPictureBox;
+
+class frmStatusBar : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmStatusBar(const QString& caption, QWidget* parent = nullptr);
+
+  void setLines(const QString& first, const QString& second = {});
+  /// 0 to 1; the bar never reads empty or finished while the work goes on.
+  void setProgress(double fraction);
+  /// Shows the window in the middle of the screen, painted, before the work begins.
+  void open() override;
+  void reject() override {}
+
+ private:
+  QLabel* lblSub1_;
+  QLabel* lblSub2_;
+  clsPictureBox* picStatus_;
+};
+
+}  // namespace vk

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "shell/mdiMain.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QScreen>
+#include <QStatusTipEvent>
+#include <QTimer>
+#include <QToolButton>
+
+#include "base/clsDesktop.h"
+#include "base/clsFlagGuard.h"
+#include "base/mdlTwips.h"
+#include "desktop/clsBarScroller.h"
+#include "desktop/clsTimerPause.h"
+#include "desktop/qtText.h"
+#include "link/mdlConnection.h"
+#include "link/mdlUSBCommand.h"
+#include "shell/frmBoxPanel.h"
+#include "shell/frmSelectMeterCh.h"
+#include "shell/frmStart.h"
+#include "shell/frmStatusBar.h"
+#include "shell/mdlConfig.h"
+#include "shell/mdlMain.h"
+#include "shell/mdlSelectMeter.h"
+#include "storage/frmRouteDirectory.h"
+#include "storage/mdlTempFiles.h"
+#include "storage/mdlWaveOpenRequest.h"
+
+namespace vk {
+
+mdiMain::~mdiMain() {
+  gLinkEvents.countersChanged = {};
+}
+
+// --- boxes ----------------------------------------------------------------------------------
+
+void mdiMain::LEDColorChg(int panel, int32_t state) {
+  panel_[static_cast<std::size_t>(panel)]->setState(stateColour(state), stateText(state));
+}
+
+void mdiMain::showBoxPanel(int row, int panel) {
+  const auto& box = gBoxTable[static_cast<std::size_t>(row)];
+  const PanelView view = panelView(box, gStatusContents);
+  auto* shown = panel_[static_cast<std::size_t>(panel)];
+  shown->setContent(view.content);
+  shown->setButtonsEnabled(view.buttons);
+  LEDColorChg(panel, view.state);
+}
+
+void mdiMain::showPanelState(int row) {
+  showBoxPanel(row, row);
+  if (row == gMainBox) showBoxPanel(row, 0);
+}
+
+void mdiMain::showAllPanels() {
+  for (int row = 1; row <= kBoxes; ++row) showPanelState(row);
+}
+
+void mdiMain::placePanels() {
+  const auto places = panelPlaces(gStatusMode, gMainBox);
+  for (std::size_t i = 0; i < places.size(); ++i) panel_[i]->place(places[i]);
+}
+
+void mdiMain::fillBoxPanels() {
+  {
+    const FlagGuard busy(filling_);
+    gMainBox = validMainBox(gMainBox);
+    auto* list = panel_[0]->boxList();
+    list->clear();
+    for (const auto& text : boxListTexts()) list->addItem(toQt(text));
+    list->setCurrentIndex(gMainBox - 1);
+    optStaContents_[static_cast<std::size_t>(gStatusContents)]->setChecked(true);
+    optStaMode_[gStatusMode == 1 ? 1 : 0]->setChecked(true);
+  }
+  const bool cal = calVisible(gBoxTable);
+  const auto places = shortcutPlaces(cal);
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    cmdShtCut_[i]->setVisible(places[i].visible);
+    cmdShtCut_[i]->move(toPixels(places[i].left), 0);
+  }
+  mnuCCAL_->setVisible(cal);
+  showBars();
+  takeChangedRows();
+  placePanels();
+  showAllPanels();
+  tmrStatus_->start();
+}
+
+void mdiMain::tmrStatus_Timer() {
+  if (!pollStatus()) return;
+  const auto changed = takeChangedRows();
+  for (int row = 1; row <= kBoxes; ++row) {
+    if (changed[static_cast<std::size_t>(row)]) showPanelState(row);
+  }
+}
+
+void mdiMain::panelCommand(PanelCommand command, int panel) {
+  if (commanding_) return;
+  const FlagGuard busy(commanding_);
+  const int row = runPanelCommand(command, panel);
+  if (row > 0) showPanelState(row);
+  desktop().doEvents();
+}
+
+void mdiMain::chooseMainBox(int listIndex) {
+  if (filling_ || !selectMainBox(listIndex)) return;
+  placePanels();
+  showPanelState(gMainBox);
+}
+
+void mdiMain::chooseStatusMode(int mode) {
+  if (filling_) return;
+  gStatusMode = mode;
+  placePanels();
+  showAllPanels();
+}
+
+void mdiMain::chooseStatusContents(int contents) {
+  if (filling_) return;
+  gStatusContents = contents;
+  showAllPanels();
+}
+
+// --- reconnect, counters, end -----------------------------------------------------------------
+
+void mdiMain::Auto_Reconnect() {
+  autoReconnect({[this](bool on) { on ? tmrStatus_->start() : tmrStatus_->stop(); },
+                 {},
+                 logBoxOf(*txtDummy_),
+                 {},
+                 [this] { fillBoxPanels(); }});
+}
+
+void mdiMain::mnuCReconnect() {
+  if (!askReconnect()) return;
+  desktop().setHourglass(true);
+  Auto_Reconnect();
+  desktop().setHourglass(false);
+}
+
+std::optional<int32_t> mdiMain::ActiveFormFind() const {
+  const auto* child = area_->activeSubWindow();
+  if (!child) return std::nullopt;
+  return activeSerialOfCaption(fromQt(child->windowTitle()));
+}
+
+void mdiMain::clickCounters() {
+  const bool shown = commViewClicks_.click();
+  picCommError_->setVisible(shown);
+  if (shown) showCounters();
+}
+
+void mdiMain::showCounters() {
+  const auto texts = counterTexts();
+  for (std::size_t i = 0; i < texts.size(); ++i) lblCommErr_[i]->setText(toQt(texts[i]));
+}
+
+void mdiMain::closeEvent(QCloseEvent* event) {
+  tmrStatus_->stop();
+  event->accept();
+  shutDown(gTempFileList);
+}
+
+bool mdiMain::event(QEvent* event) {
+  if (event->type() == QEvent::StatusTip) {
+    lblStatusTip_->setText(static_cast<QStatusTipEvent*>(event)->tip());
+    return true;
+  }
+  return QMainWindow::event(event);
+}
+
+void mdiMain::showBars() {
+  picShtCut_->setVisible(gShowShortcut);
+  picStatus_->setVisible(gShowStatus);
+  mnuVShortCut_->setChecked(gShowShortcut);
+  mnuVStatus_->setChecked(gShowStatus);
+}
+
+void mdiMain::placeFrame() {
+  const QRect screenArea = screen()->geometry();
+  const int wanted = picStatus_->bar()->width();
+  const int frameWidth = qMin(wanted, screenArea.width());
+  const FramePlace place = framePlace(toTwips(screenArea.width()), toTwips(frameWidth));
+  resize(frameWidth, toPixels(place.height));
+  // move() counts the frame, so that the title bar stays on the screen.
+  move(screenArea.left() + toPixels(place.left), screenArea.top() + toPixels(place.top));
+}
+
+void mdiMain::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (placed_ || event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
+  placed_ = true;
+  QTimer::singleShot(0, this, &mdiMain::fitFrame);
+}
+
+// The given height counts the frame, whose size is known once the window manager has made it.
+void mdiMain::fitFrame() {
+  const int frameHeight = frameGeometry().height() - height();
+  if (!isMaximized()) resize(width(), toPixels(framePlace(0, 0).height) - frameHeight);
+}
+
+// --- actions on a box -------------------------------------------------------------------------
+
+bool mdiMain::selectBox(int32_t mode, bool check) {
+  gSelMode = mode;
+  frmSelectMeterCh dialog(check, this);
+  dialog.exec();
+  return boxSelected();
+}
+
+void mdiMain::mnuFMeterRead() {
+  const clsTimerPause pause(*tmrStatus_);
+  if (!selectBox(kSelectBox)) return;
+  const int32_t serial = gSelSerial;
+  {
+    frmStatusBar progress(QStringLiteral("Read USB"), this);
+    progress.setLines(tr("Reading the directory of the CF card."));
+    progress.open();
+    gLinkEvents.progress = [&progress](double fraction) { progress.setProgress(fraction); };
+    const int32_t result = usbRTD(serial);
+    gLinkEvents.progress = {};
+    if (result != kUsbOk) return;
+  }
+  waveRequestSet = 0;
+  frmRouteDirectory form(serial, this);
+  form.openCard();
+  form.exec();
+  txtDelFile_->setPlainText(toQt(gTempFileList));
+  if (waveRequestSet == 1) lblStatusTip_->setText(tr("Read; this version cannot show waves yet."));
+}
+
+}  // namespace vk

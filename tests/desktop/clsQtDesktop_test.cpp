@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/clsQtDesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+
+#include "desktop/clsPictureBox.h"
+#include "tests/support/window_tools.h"
+
+namespace vktest {
+namespace {
+
+using vk::BoxAnswer;
+using vk::BoxButtons;
+using vk::BoxIcon;
+
+/// Acts on the message box that is about to open.
+void whenBoxOpens(std::function<void(QMessageBox&)> action) {
+  QTimer::singleShot(0, qApp, [action] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    action(*box);
+  });
+}
+
+TEST(QtDesktop, EveryWayOutOfABoxHasItsAnswer) {
+  vk::clsQtDesktop desk;
+  const auto press = [](QMessageBox::StandardButton which) {
+    return [which](QMessageBox& box) { box.button(which)->click(); };
+  };
+  const auto close = [](QMessageBox& box) { box.close(); };
+  const auto escape = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); };
+  const auto enter = [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); };
+  struct Row {
+    const char* name;
+    BoxButtons buttons;
+    std::function<void(QMessageBox&)> action;
+    BoxAnswer answer;
+  };
+  const Row rows[] = {
+      {"ok", BoxButtons::kOk, press(QMessageBox::Ok), BoxAnswer::kOk},
+      {"ok closed", BoxButtons::kOk, close, BoxAnswer::kOk},
+      {"ok-cancel ok", BoxButtons::kOkCancel, press(QMessageBox::Ok), BoxAnswer::kOk},
+      {"ok-cancel cancel", BoxButtons::kOkCancel, press(QMessageBox::Cancel), BoxAnswer::kCancel},
+      {"ok-cancel closed", BoxButtons::kOkCancel, close, BoxAnswer::kCancel},
+      {"ok-cancel escape", BoxButtons::kOkCancel, escape, BoxAnswer::kCancel},
+      {"ok-cancel enter", BoxButtons::kOkCancel, enter, BoxAnswer::kOk},
+      {"yes", BoxButtons::kYesNo, press(QMessageBox::Yes), BoxAnswer::kYes},
+      {"no", BoxButtons::kYesNo, press(QMessageBox::No), BoxAnswer::kNo},
+      {"yes-no closed", BoxButtons::kYesNo, close, BoxAnswer::kClosed},
+      {"yes-no escape", BoxButtons::kYesNo, escape, BoxAnswer::kClosed}};
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    whenBoxOpens(row.action);
+    EXPECT_EQ(desk.messageBox("File Process", "text", row.buttons, BoxIcon::kExclamation),
+              row.answer);
+  }
+}
+
+TEST(QtDesktop, ABoxShowsItsTextAsItStands) {
+  vk::clsQtDesktop desk;
+  whenBoxOpens([](QMessageBox& box) {
+    EXPECT_EQ(box.windowTitle(), "USB Error");
+    EXPECT_EQ(box.text(), "<b>1 & 2</b>");
+    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+    // Plain text stays as wide as its characters; as markup it would lose them.
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    box.close();
+  });
+  (void)desk.messageBox("USB Error", "<b>1 & 2</b>", BoxButtons::kOk, BoxIcon::kExclamation);
+}
+
+TEST(QtDesktop, WaitingEndsWithTheTimeOrAnEvent) {
+  vk::clsQtDesktop desk;
+  const int64_t start = desk.milliseconds();
+  for (int i = 0; i < 200 && desk.milliseconds() - start < 20; ++i) desk.waitEvents(20);
+  EXPECT_GE(desk.milliseconds() - start, 20);
+  bool called = false;
+  QTimer::singleShot(0, qApp, [&called] { called = true; });
+  while (!called) desk.waitEvents(-1);
+  EXPECT_TRUE(called);
+}
+
+TEST(QtDesktop, TheOutermostRoundDeliversDeferredDeletes) {
+  vk::clsQtDesktop desk;
+  QPointer<QObject> object = new QObject;
+  bool aliveInside = false;
+  QTimer::singleShot(0, qApp, [&] {
+    object->deleteLater();
+    desk.doEvents();
+    aliveInside = !object.isNull();
+  });
+  desk.waitEvents(50);
+  desk.doEvents();
+  EXPECT_TRUE(aliveInside);
+  EXPECT_TRUE(object.isNull());
+}
+
+TEST(PictureBox, InvertedTextIsReadableOnBothSides) {
+  vk::clsPictureBox picture;
+  picture.resize(20, 10);
+  picture.clear(0xFFFFFF);
+  picture.filledBox(5, 2, 14, 7, 0x800000);
+  picture.invertedBox(0, 0, 9, 9, 0x800000);
+  const QImage shown = picture.grab().toImage();
+  // Colours are blue-green-red: 0x800000 is a dark blue.
+  EXPECT_EQ(shown.pixelColor(16, 1), QColor(0xFF, 0xFF, 0xFF));
+  EXPECT_EQ(shown.pixelColor(12, 5), QColor(0x00, 0x00, 0x80));
+  EXPECT_EQ(shown.pixelColor(2, 1), QColor(0x00, 0x00, 0x80));
+  EXPECT_EQ(shown.pixelColor(7, 5), QColor(0xFF, 0xFF, 0xFF));
+  // Both corners belong to a box.
+  EXPECT_EQ(shown.pixelColor(14, 7), QColor(0x00, 0x00, 0x80));
+  EXPECT_EQ(shown.pixelColor(15, 7), QColor(0xFF, 0xFF, 0xFF));
+}
+
+}  // namespace
+}  // namespace vktest
