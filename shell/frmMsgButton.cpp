@@ -7,7 +7,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "base/mdlText.h"
 #include "desktop/qtText.h"
 
 namespace vk {
@@ -41,20 +40,20 @@ frmMsgButton::frmMsgButton(const QString& title, const QString& text, const QStr
   lines->addWidget(cmdClose, 0, Qt::AlignRight);
 
   timer2_ = named(new QTimer(this), QStringLiteral("Timer2"));
-  timer2_->setInterval(200);
+  timer2_->setInterval(kNoticeStepMs);
   connect(timer2_, &QTimer::timeout, this, &frmMsgButton::tick);
   auto* timer1 = named(new QTimer(this), QStringLiteral("Timer1"));
   timer1->setSingleShot(true);
-  timer1->setInterval(1000);
+  timer1->setInterval(kNoticeDelayMs);
   connect(timer1, &QTimer::timeout, timer2_, qOverload<>(&QTimer::start));
   timer1->start();
   setMinimumWidth(380);
 }
 
 void frmMsgButton::tick() {
-  --counter_;
-  lblSub2_->setText(toQt(textOf(roundWhole(counter_ / 5.0)) + " s"));
-  if (counter_ > 0) return;
+  const bool goesOn = left_.tick();
+  lblSub2_->setText(toQt(left_.text()));
+  if (goesOn) return;
   timer2_->stop();
   accept();
 }

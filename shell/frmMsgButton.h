@@ -5,6 +5,8 @@
 #include <QDialog>
 #include <QString>
 
+#include "shell/mdlNotice.h"
+
 class QLabel;
 class QTimer;
 
@@ -20,7 +22,7 @@ class frmMsgButton : public QDialog {
  private:
   void tick();
 
-  int counter_ = 50;  ///< fifths of a second left
+  NoticeCountdown left_;
   QLabel* lblSub2_;
   QTimer* timer2_;
 };

@@ -22,6 +22,7 @@
 #include "link/mdlUSBCommand.h"
 #include "shell/frmBoxPanel.h"
 #include "shell/mdiMain.h"
+#include "shell/mdlArrange.h"
 #include "shell/mdlConfig.h"
 
 #include <QComboBox>
@@ -138,25 +139,24 @@ void mdiMain::buildSettingsMenu() {
 
 void mdiMain::buildViewMenus() {
   auto* window = addMenu("mnuWindow", tr("&Window"));
-  const auto arrange = [this](bool horizontal) {
+  const auto arrange = [this](Tiling tiling) {
     QList<QMdiSubWindow*> shown;
     for (auto* child : area_->subWindowList()) {
       if (child->isVisible() && !child->isMinimized()) shown << child;
     }
-    for (qsizetype i = 0; i < shown.size(); ++i) {
-      const QRect all = area_->viewport()->rect();
-      const int count = static_cast<int>(shown.size());
-      const int at = static_cast<int>(i);
-      shown[i]->showNormal();
-      shown[i]->setGeometry(
-          horizontal ? QRect(0, all.height() * at / count, all.width(), all.height() / count)
-                     : QRect(all.width() * at / count, 0, all.width() / count, all.height()));
+    const QSize all = area_->viewport()->size();
+    const auto places =
+        tilePlaces(tiling, static_cast<int>(shown.size()), all.width(), all.height());
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      auto* child = shown[static_cast<qsizetype>(i)];
+      child->showNormal();
+      child->setGeometry(places[i].left, places[i].top, places[i].width, places[i].height);
     }
   };
   addItem(window, {"mnuWHorizontal", "&Horizontal", "Arranges the child windows one below another",
-                   [arrange] { arrange(true); }});
+                   [arrange] { arrange(Tiling::kHorizontal); }});
   addItem(window, {"mnuWVertical", "&Vertical", "Arranges the child windows side by side",
-                   [arrange] { arrange(false); }});
+                   [arrange] { arrange(Tiling::kVertical); }});
   addItem(window, {"mnuVCascade", "&Cascade", "Arranges the child windows overlapping",
                    [this] { area_->cascadeSubWindows(); }});
 
