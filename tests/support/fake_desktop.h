@@ -8,20 +8,17 @@
 #include <functional>
 #include <map>
 #include <string>
-#include <vector>
 
-#include "base/clsDesktop.h"
+#include "tests/support/desktop_answers.h"
 
 namespace vktest {
 
-class FakeDesktop : public vk::clsDesktop {
+class FakeDesktop : public vk::clsDesktop, public DesktopAnswers {
  public:
   FakeDesktop() { vk::setDesktop(this); }
   ~FakeDesktop() override { vk::setDesktop(nullptr); }
 
   // What the test prepares.
-  std::deque<vk::BoxAnswer> answers;         ///< an empty queue answers with the first button
-  std::deque<std::string> files;             ///< answers of file dialogs; an empty queue cancels
   std::deque<std::function<void()>> yields;  ///< each runs inside one yield
   std::map<vk::SpecialFolder, std::filesystem::path> folders;
   std::filesystem::path program = "/nonexistent";
@@ -30,18 +27,9 @@ class FakeDesktop : public vk::clsDesktop {
   vk::DateTime time{2026, 1, 5, 9, 30, 0};
 
   // What happened.
-  std::vector<std::string> log;
   int yieldCount = 0;
   bool ended = false;
   bool hourglass = false;
-
-  /// The log as one text, a line each, and empties it.
-  std::string takeLog() {
-    std::string text;
-    for (const auto& line : log) text += line + "\n";
-    log.clear();
-    return text;
-  }
 
   vk::BoxAnswer messageBox(const std::string& title, const std::string& text,
                            vk::BoxButtons buttons, vk::BoxIcon icon) override {
@@ -49,12 +37,7 @@ class FakeDesktop : public vk::clsDesktop {
     static const char* const kButtons[] = {"ok", "ok-cancel", "yes-no"};
     log.push_back("box[" + title + "][" + text + "][" + kButtons[static_cast<int>(buttons)] + "][" +
                   kIcons[static_cast<int>(icon)] + "]");
-    if (answers.empty()) {
-      return buttons == vk::BoxButtons::kYesNo ? vk::BoxAnswer::kYes : vk::BoxAnswer::kOk;
-    }
-    const auto answer = answers.front();
-    answers.pop_front();
-    return answer;
+    return nextAnswer(buttons);
   }
   void doEvents() override {
     ++yieldCount;
@@ -73,10 +56,7 @@ class FakeDesktop : public vk::clsDesktop {
                          const std::string& filter, const std::string& folder) override {
     log.push_back(std::string(kind == vk::FileDialogKind::kOpen ? "open[" : "save[") + title +
                   "][" + filter + "][" + folder + "]");
-    if (files.empty()) return {};
-    const auto file = files.front();
-    files.pop_front();
-    return file;
+    return nextFile();
   }
   std::filesystem::path specialFolder(vk::SpecialFolder folder) override {
     const auto found = folders.find(folder);

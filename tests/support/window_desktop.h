@@ -3,47 +3,29 @@
 #pragma once
 
 #include <QTemporaryDir>
-#include <deque>
 #include <string>
-#include <vector>
 
 #include "desktop/clsQtDesktop.h"
+#include "tests/support/desktop_answers.h"
 
 namespace vktest {
 
-class WindowDesktop : public vk::clsQtDesktop {
+class WindowDesktop : public vk::clsQtDesktop, public DesktopAnswers {
  public:
   WindowDesktop() { vk::setDesktop(this); }
   ~WindowDesktop() override { vk::setDesktop(nullptr); }
 
-  std::deque<vk::BoxAnswer> answers;  ///< an empty queue answers with the first button
-  std::deque<std::string> files;      ///< answers of file dialogs; an empty queue cancels
-  std::vector<std::string> log;       ///< "box[title][text]", "end"
-  QTemporaryDir data;                 ///< stands for the special folders
+  QTemporaryDir data;  ///< stands for the special folders
 
-  std::string takeLog() {
-    std::string text;
-    for (const auto& line : log) text += line + "\n";
-    log.clear();
-    return text;
-  }
   vk::BoxAnswer messageBox(const std::string& title, const std::string& text,
                            vk::BoxButtons buttons, vk::BoxIcon) override {
     log.push_back("box[" + title + "][" + text + "]");
-    if (answers.empty()) {
-      return buttons == vk::BoxButtons::kYesNo ? vk::BoxAnswer::kYes : vk::BoxAnswer::kOk;
-    }
-    const auto answer = answers.front();
-    answers.pop_front();
-    return answer;
+    return nextAnswer(buttons);
   }
   std::string fileDialog(vk::FileDialogKind, const std::string& title, const std::string&,
                          const std::string&) override {
     log.push_back("file[" + title + "]");
-    if (files.empty()) return {};
-    const auto file = files.front();
-    files.pop_front();
-    return file;
+    return nextFile();
   }
   std::filesystem::path specialFolder(vk::SpecialFolder) override {
     return data.path().toStdString();
