@@ -17,14 +17,14 @@ frmStatusBar::frmStatusBar(const QString& caption, QWidget* parent)
   setWindowModality(Qt::ApplicationModal);
   lblSub1_ = named(new QLabel(this), QStringLiteral("lblSub1"));
   lblSub2_ = named(new QLabel(this), QStringLiteral("lblSub2"));
-  picStatus_ = named(new clsPictureBox(this), QStringLiteral("picProgress"), tr("Progress"));
-  picStatus_->setFixedHeight(22);
+  picProgress_ = named(new clsPictureBox(this), QStringLiteral("picProgress"), tr("Progress"));
+  picProgress_->setFixedHeight(22);
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(16, 14, 16, 16);
   lines->addWidget(lblSub1_);
   lines->addWidget(lblSub2_);
   lines->addSpacing(6);
-  lines->addWidget(picStatus_);
+  lines->addWidget(picProgress_);
   setMinimumWidth(400);
 }
 
@@ -35,7 +35,7 @@ void frmStatusBar::setLines(const QString& first, const QString& second) {
 }
 
 void frmStatusBar::setProgress(double fraction) {
-  progressBar(*picStatus_, fraction, false);
+  progressBar(*picProgress_, fraction, false);
 }
 
 void frmStatusBar::open() {

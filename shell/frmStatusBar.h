@@ -28,7 +28,7 @@ class frmStatusBar : public QDialog {
  private:
   QLabel* lblSub1_;
   QLabel* lblSub2_;
-  clsPictureBox* picStatus_;
+  clsPictureBox* picProgress_;
 };
 
 }  // namespace vk

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The parts of the main window: menus, shortcut bar, status bar, counter display, timers.
-#include <QActionGroup>
 #include <QButtonGroup>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMdiArea>
@@ -24,8 +24,6 @@
 #include "shell/mdiMain.h"
 #include "shell/mdlArrange.h"
 #include "shell/mdlConfig.h"
-
-#include <QComboBox>
 
 namespace vk {
 
