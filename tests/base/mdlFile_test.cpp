@@ -2,6 +2,8 @@
 #include "base/mdlFile.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -74,6 +76,21 @@ class File : public ::testing::Test {
   vktest::DataFolder files_;
   fs::path folder_ = files_.path();
 };
+
+// A file system of 64 KB that belongs to the child alone and goes with it.
+TEST_F(File, ATinyFileSystemThatIsFullLeavesTheOldFileWhole) {
+  const int result = inChild([&] {
+    if (::unshare(CLONE_NEWNS) != 0) return kChildCannot;  // only the superuser may mount
+    (void)::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
+    if (::mount("none", folder_.c_str(), "tmpfs", 0, "size=64k") != 0) return kChildCannot;
+    if (vk::writeWholeFile(folder_ / "A.dat", "old") != vk::kFileOk) return 1;
+    if (vk::writeWholeFile(folder_ / "A.dat", std::string(100000, 'x')) != vk::kFileOther) return 2;
+    if (contents("A.dat") != "old") return 3;
+    return listing(folder_) == "A.dat" ? 0 : 4;
+  });
+  if (result == kChildCannot) GTEST_SKIP() << "no file system can be mounted here";
+  EXPECT_EQ(result, 0);
+}
 
 // --- writing ----------------------------------------------------------------------------------
 
