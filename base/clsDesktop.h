@@ -6,7 +6,10 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
+
+#include "base/clsPicture.h"
 
 namespace vk {
 
@@ -46,6 +49,8 @@ class clsDesktop {
   /// The chosen path, empty after a cancel. The filter is "text|pattern|text|pattern|".
   virtual std::string fileDialog(FileDialogKind kind, const std::string& title,
                                  const std::string& filter, const std::string& folder) = 0;
+  /// The colour the user chose, empty after a cancel.
+  virtual std::optional<Colour> colourDialog(Colour colour) = 0;
   /// Empty when the platform has none.
   virtual std::filesystem::path specialFolder(SpecialFolder folder) = 0;
   /// Folder of the executable.

@@ -3,10 +3,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QColorDialog>
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMessageBox>
@@ -16,6 +18,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
 
 namespace vk {
@@ -114,6 +117,12 @@ BoxAnswer clsQtDesktop::messageBox(const std::string& title, const std::string& 
   box.setText(toQt(text));
   box.setIcon(iconOf(icon));
   box.setStandardButtons(buttonsOf(buttons));
+  if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+    // A short text would leave the title too little room.
+    constexpr int kTitleButtons = 140;
+    const int titleWidth = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kTitleButtons;
+    grid->addItem(new QSpacerItem(titleWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
   const bool hourglass = QGuiApplication::overrideCursor() != nullptr;
   if (hourglass) QGuiApplication::changeOverrideCursor(Qt::ArrowCursor);
   box.exec();
@@ -172,6 +181,13 @@ std::string clsQtDesktop::fileDialog(FileDialogKind kind, const std::string& tit
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return fromQt(dialog.selectedFiles().constFirst());
+}
+
+std::optional<Colour> clsQtDesktop::colourDialog(Colour colour) {
+  QColorDialog dialog(toQColor(colour), QApplication::activeWindow());
+  dialog.setOption(QColorDialog::DontUseNativeDialog);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return fromQColor(dialog.selectedColor());
 }
 
 std::filesystem::path clsQtDesktop::specialFolder(SpecialFolder folder) {

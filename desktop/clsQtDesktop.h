@@ -17,6 +17,7 @@ class clsQtDesktop : public clsDesktop {
   DateTime now() override;
   std::string fileDialog(FileDialogKind kind, const std::string& title, const std::string& filter,
                          const std::string& folder) override;
+  std::optional<Colour> colourDialog(Colour colour) override;
   std::filesystem::path specialFolder(SpecialFolder folder) override;
   std::filesystem::path applicationFolder() override;
   std::string applicationTitle() override;

@@ -10,6 +10,7 @@
 
 #include "tests/support/data_folder.h"
 #include "tests/support/fake_desktop.h"
+#include "tests/support/recording_picture.h"
 
 namespace {
 
@@ -144,35 +145,26 @@ TEST(Progress, Percent) {
   EXPECT_EQ(working, "1 1 1 2 49 50 99 99 99 1 99 1 ");
 }
 
-/// Notes each operation; a character is 8 by 16.
-class RecordingPicture : public vk::clsPicture {
- public:
-  int width() const override { return 200; }
-  int height() const override { return 20; }
-  void clear(vk::Colour colour) override { log += fmt::format("clear {:06X}, ", colour); }
-  void filledBox(int, int, int, int, vk::Colour) override { log += "filled, "; }
-  void invertedBox(int x1, int y1, int x2, int y2, vk::Colour colour) override {
-    log += fmt::format("inverted {} {} {} {} {:06X}, ", x1, y1, x2, y2, colour);
-  }
-  void text(int x, int y, const std::string& text, vk::Colour colour) override {
-    log += fmt::format("{} at {} {} {:06X}, ", text, x, y, colour);
-  }
-  int textWidth(const std::string& text) const override { return 8 * int(text.size()); }
-  int textHeight(const std::string&) const override { return 16; }
-  void refresh() override { log += "shown\n"; }
-
-  std::string log;
-};
-
 TEST(Progress, Bar) {
-  RecordingPicture picture;
+  vktest::RecordingPicture picture("bar", 200, 20);
   for (const double fraction : {0.0, 0.5, 1.0}) vk::progressBar(picture, fraction, true);
   vk::progressBar(picture, 0, false);
-  EXPECT_EQ(picture.log,
-            "clear FFFFFF, 0% at 92 2 800000, shown\n"
-            "clear FFFFFF, 50% at 88 2 800000, inverted 0 0 99 19 800000, shown\n"
-            "clear FFFFFF, 100% at 84 2 800000, inverted 0 0 199 19 800000, shown\n"
-            "clear FFFFFF, 1% at 92 2 800000, inverted 0 0 1 19 800000, shown\n");
+  EXPECT_EQ(picture.take(), R"(clear FFFFFF
+text 92,2 800000 [0%]
+refresh
+clear FFFFFF
+text 88,2 800000 [50%]
+inverted 0,0 99,19 800000
+refresh
+clear FFFFFF
+text 84,2 800000 [100%]
+inverted 0,0 199,19 800000
+refresh
+clear FFFFFF
+text 92,2 800000 [1%]
+inverted 0,0 1,19 800000
+refresh
+)");
 }
 
 }  // namespace

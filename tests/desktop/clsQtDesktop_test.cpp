@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "desktop/clsPictureBox.h"
 #include "tests/support/window_tools.h"
 
 namespace vktest {
@@ -99,23 +98,6 @@ TEST(QtDesktop, TheOutermostRoundDeliversDeferredDeletes) {
   desk.doEvents();
   EXPECT_TRUE(aliveInside);
   EXPECT_TRUE(object.isNull());
-}
-
-TEST(PictureBox, InvertedTextIsReadableOnBothSides) {
-  vk::clsPictureBox picture;
-  picture.resize(20, 10);
-  picture.clear(0xFFFFFF);
-  picture.filledBox(5, 2, 14, 7, 0x800000);
-  picture.invertedBox(0, 0, 9, 9, 0x800000);
-  const QImage shown = picture.grab().toImage();
-  // Colours are blue-green-red: 0x800000 is a dark blue.
-  EXPECT_EQ(shown.pixelColor(16, 1), QColor(0xFF, 0xFF, 0xFF));
-  EXPECT_EQ(shown.pixelColor(12, 5), QColor(0x00, 0x00, 0x80));
-  EXPECT_EQ(shown.pixelColor(2, 1), QColor(0x00, 0x00, 0x80));
-  EXPECT_EQ(shown.pixelColor(7, 5), QColor(0xFF, 0xFF, 0xFF));
-  // Both corners belong to a box.
-  EXPECT_EQ(shown.pixelColor(14, 7), QColor(0x00, 0x00, 0x80));
-  EXPECT_EQ(shown.pixelColor(15, 7), QColor(0xFF, 0xFF, 0xFF));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@ namespace vktest {
 struct DesktopAnswers {
   std::deque<vk::BoxAnswer> answers;  ///< an empty queue answers with the first button
   std::deque<std::string> files;      ///< answers of file dialogs; an empty queue cancels
+  std::deque<vk::Colour> colours;     ///< answers of colour dialogs; an empty queue cancels
   std::vector<std::string> log;
 
   /// The log as one text, a line each, and empties it.
@@ -29,6 +31,12 @@ struct DesktopAnswers {
     const auto answer = answers.front();
     answers.pop_front();
     return answer;
+  }
+  std::optional<vk::Colour> nextColour() {
+    if (colours.empty()) return std::nullopt;
+    const auto colour = colours.front();
+    colours.pop_front();
+    return colour;
   }
   std::string nextFile() {
     if (files.empty()) return {};

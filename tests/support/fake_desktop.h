@@ -58,6 +58,10 @@ class FakeDesktop : public vk::clsDesktop, public DesktopAnswers {
                   "][" + filter + "][" + folder + "]");
     return nextFile();
   }
+  std::optional<vk::Colour> colourDialog(vk::Colour colour) override {
+    log.push_back("colour[" + std::to_string(colour) + "]");
+    return nextColour();
+  }
   std::filesystem::path specialFolder(vk::SpecialFolder folder) override {
     const auto found = folders.find(folder);
     return found == folders.end() ? std::filesystem::path{} : found->second;

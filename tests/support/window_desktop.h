@@ -15,7 +15,10 @@ class WindowDesktop : public vk::clsQtDesktop, public DesktopAnswers {
   WindowDesktop() { vk::setDesktop(this); }
   ~WindowDesktop() override { vk::setDesktop(nullptr); }
 
-  QTemporaryDir data;  ///< stands for the special folders
+  QTemporaryDir data;   ///< stands for the special folders
+  int64_t skipped = 0;  ///< milliseconds that passed without waiting for them
+
+  int64_t milliseconds() override { return clsQtDesktop::milliseconds() + skipped; }
 
   vk::BoxAnswer messageBox(const std::string& title, const std::string& text,
                            vk::BoxButtons buttons, vk::BoxIcon) override {
@@ -26,6 +29,10 @@ class WindowDesktop : public vk::clsQtDesktop, public DesktopAnswers {
                          const std::string&) override {
     log.push_back("file[" + title + "]");
     return nextFile();
+  }
+  std::optional<vk::Colour> colourDialog(vk::Colour colour) override {
+    log.push_back("colour[" + std::to_string(colour) + "]");
+    return nextColour();
   }
   std::filesystem::path specialFolder(vk::SpecialFolder) override {
     return data.path().toStdString();

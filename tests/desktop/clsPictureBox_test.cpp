@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: MIT
+// Every operation on the dots of the surface, on a screen of one and of two dots to a pixel.
+#include "desktop/clsPictureBox.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+namespace vktest {
+namespace {
+
+using vk::LineStyle;
+
+constexpr vk::Colour kInk = 0xFFFFFF;
+constexpr int kFar = 1000000;
+
+class Picture : public vk::clsPictureBox {
+ public:
+  Picture(int ratio, int columns, int rows) : ratio_(ratio) {
+    resize(columns, rows);
+    clear(0);
+  }
+  QImage image() { return grab().toImage(); }
+  /// A character for each dot, "#" for every colour but the background.
+  std::string dots() {
+    const QImage shown = image();
+    std::string text;
+    for (int y = 0; y < shown.height(); ++y) {
+      for (int x = 0; x < shown.width(); ++x) {
+        text += shown.pixelColor(x, y) == QColor(Qt::black) ? '.' : '#';
+      }
+      text += '\n';
+    }
+    return text;
+  }
+
+ protected:
+  int metric(PaintDeviceMetric which) const override {
+    if (which == PdmDevicePixelRatio) return ratio_;
+    if (which == PdmDevicePixelRatioScaled)
+      return static_cast<int>(ratio_ * devicePixelRatioFScale());
+    return clsPictureBox::metric(which);
+  }
+
+ private:
+  int ratio_;
+};
+
+/// The same picture with two by two dots to a pixel.
+std::string doubled(const std::string& text) {
+  std::string twice;
+  std::string row;
+  for (const char dot : text) {
+    if (dot == '\n') {
+      twice += row + "\n" + row + "\n";
+      row.clear();
+    } else {
+      row += {dot, dot};
+    }
+  }
+  return twice;
+}
+
+struct Row {
+  const char* name;
+  std::function<void(Picture&)> draw;
+  const char* dots;
+};
+
+std::function<void(Picture&)> line(int x1, int y1, int x2, int y2) {
+  return [=](Picture& picture) { picture.line(x1, y1, x2, y2, kInk); };
+}
+
+TEST(PictureBox, LinesAlongTheAxesPointsAndBoxes) {
+  const auto dotted = [](int x1, int y1, int x2, int y2) {
+    return [=](Picture& picture) {
+      picture.setLineStyle(LineStyle::kDotted);
+      picture.line(x1, y1, x2, y2, kInk);
+    };
+  };
+  const auto wide = [](int pixels, int x1, int y1, int x2, int y2) {
+    return [=](Picture& picture) {
+      picture.setLineWidth(pixels);
+      picture.line(x1, y1, x2, y2, kInk);
+    };
+  };
+  const auto box = [](int x1, int y1, int x2, int y2) {
+    return [=](Picture& picture) { picture.box(x1, y1, x2, y2, kInk); };
+  };
+  const auto fill = [](int x1, int y1, int x2, int y2) {
+    return [=](Picture& picture) { picture.filledBox(x1, y1, x2, y2, kInk); };
+  };
+  const auto point = [](int x, int y) {
+    return [=](Picture& picture) { picture.point(x, y, kInk); };
+  };
+  const Row rows[] = {
+      {"to the right", line(1, 1, 4, 1), "......\n.###..\n......\n......\n"},
+      {"to the left", line(4, 1, 1, 1), "......\n..###.\n......\n......\n"},
+      {"down", line(1, 0, 1, 2), ".#....\n.#....\n......\n......\n"},
+      {"up", line(1, 2, 1, 0), "......\n.#....\n.#....\n......\n"},
+      {"nothing", line(1, 1, 1, 1), "......\n......\n......\n......\n"},
+      {"across all", line(-kFar, 1, kFar, 1), "......\n######\n......\n......\n"},
+      {"from beyond", line(kFar, 1, 3, 1), "......\n....##\n......\n......\n"},
+      {"to beyond", line(2, 2, 2, -kFar), "..#...\n..#...\n..#...\n......\n"},
+      {"outside", line(kFar, 1, kFar + 5, 1), "......\n......\n......\n......\n"},
+      {"two wide", wide(2, 1, 1, 4, 1), "......\n.###..\n.###..\n......\n"},
+      {"three wide", wide(3, 2, 3, 2, 1), "......\n......\n.###..\n.###..\n"},
+      {"no width", wide(0, 1, 1, 4, 1), "......\n.###..\n......\n......\n"},
+      {"dotted", dotted(0, 1, 6, 1), "......\n#..#..\n......\n......\n"},
+      {"dotted back", dotted(5, 1, -1, 1), "......\n..#..#\n......\n......\n"},
+      {"dotted down", dotted(2, 0, 2, 4), "..#...\n......\n......\n..#...\n"},
+      {"dotted from beyond", dotted(-4, 1, 6, 1), "......\n..#..#\n......\n......\n"},
+      {"dotted far", dotted(-kFar, 1, kFar, 1), "......\n..#..#\n......\n......\n"},
+      {"point", point(5, 3), "......\n......\n......\n.....#\n"},
+      {"point outside", point(6, -1), "......\n......\n......\n......\n"},
+      {"box", box(1, 0, 4, 2), ".####.\n.#..#.\n.####.\n......\n"},
+      {"box backward", box(4, 2, 1, 0), ".####.\n.#..#.\n.####.\n......\n"},
+      {"box cut", box(-kFar, 1, 2, kFar), "......\n###...\n..#...\n..#...\n"},
+      {"filled", fill(4, 1, 3, 2), "......\n...##.\n...##.\n......\n"},
+      {"filled all", fill(-kFar, kFar, kFar, -kFar), "######\n######\n######\n######\n"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    Picture single(1, 6, 4);
+    row.draw(single);
+    EXPECT_EQ(single.dots(), row.dots);
+    Picture twice(2, 6, 4);
+    row.draw(twice);
+    EXPECT_EQ(twice.dots(), doubled(row.dots));
+  }
+}
+
+TEST(PictureBox, ObliqueLinesLeaveOutTheirEndPoint) {
+  const Row rows[] = {
+      {"right down", line(0, 0, 5, 2), "##....\n..##..\n....#.\n......\n"},
+      {"and back", line(5, 2, 0, 0), ".#....\n..##..\n....##\n......\n"},
+      {"right up", line(0, 3, 5, 1), "......\n....#.\n..##..\n##....\n"},
+      {"left down", line(5, 1, 0, 3), "......\n....##\n..##..\n.#....\n"},
+      {"steep", line(0, 0, 1, 4), "#.....\n#.....\n.#....\n.#....\n"},
+      {"steep back", line(1, 3, 0, -1), "#.....\n.#....\n.#....\n.#....\n"},
+      {"steep to the left", line(3, 0, 2, 4), "...#..\n...#..\n...#..\n..#...\n"},
+      {"diagonal", line(4, 3, 1, 0), "......\n..#...\n...#..\n....#.\n"},
+      {"from far to far", line(-kFar, -kFar, kFar, kFar), "#.....\n.#....\n..#...\n...#..\n"},
+      {"leaves and comes", line(-kFar, 0, kFar, 4), "......\n......\n######\n......\n"},
+      {"outside", line(-5, 3, 3, 11), "......\n......\n......\n......\n"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    Picture picture(1, 6, 4);
+    row.draw(picture);
+    EXPECT_EQ(picture.dots(), row.dots);
+  }
+  Picture fine(2, 6, 4);
+  fine.line(0, 0, 5, 2, kInk);
+  EXPECT_EQ(fine.dots(),
+            "##..........\n"
+            "#####.......\n"
+            "..#####.....\n"
+            ".....#####..\n"
+            ".......###..\n"
+            "............\n"
+            "............\n"
+            "............\n");
+}
+
+TEST(PictureBox, BlocksMoveWithinOnePictureInEachDirection) {
+  const auto moved = [](int x, int y, int width, int height, int fromX, int fromY) {
+    return [=](Picture& picture) { picture.copy(picture, x, y, width, height, fromX, fromY); };
+  };
+  const Row rows[] = {
+      {"left", moved(0, 0, 5, 4, 1, 0), "#..#..\n.#....\n....##\n..####\n"},
+      {"right", moved(1, 0, 5, 4, 0, 0), "..#..#\n...#..\n......\n....##\n"},
+      {"up", moved(0, 0, 6, 3, 0, 1), "..#...\n.....#\n...###\n...###\n"},
+      {"down", moved(0, 1, 6, 3, 0, 0), ".#..#.\n.#..#.\n..#...\n.....#\n"},
+      {"down right", moved(1, 1, 3, 2, 0, 0), ".#..#.\n..#...\n...#.#\n...###\n"},
+      {"cut", moved(-2, 2, 100, 100, 0, 1), ".#..#.\n..#...\n#....#\n...###\n"},
+      {"beyond", moved(kFar, 0, 6, 4, 0, 0), ".#..#.\n..#...\n.....#\n...###\n"},
+      {"from beyond", moved(0, 0, 6, 4, -kFar, 0), ".#..#.\n..#...\n.....#\n...###\n"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    for (const int ratio : {1, 2}) {
+      Picture picture(ratio, 6, 4);
+      picture.point(1, 0, kInk);
+      picture.point(4, 0, kInk);
+      picture.point(2, 1, kInk);
+      picture.point(5, 2, kInk);
+      picture.line(3, 3, 6, 3, kInk);
+      row.draw(picture);
+      EXPECT_EQ(picture.dots(), ratio == 1 ? row.dots : doubled(row.dots));
+    }
+  }
+}
+
+TEST(PictureBox, ArcsRunCounterClockwiseFromTheRight) {
+  constexpr int kMiddle = 15;
+  constexpr int kRadius = 10;
+  const struct {
+    int from, to;
+    const char* quarters;  ///< right up, left up, left down, right down
+  } rows[] = {
+      {0, 90, "x---"}, {90, 180, "-x--"}, {90, 360, "-xxx"}, {270, 90, "x--x"}, {0, 360, "xxxx"}};
+  for (const int ratio : {1, 2}) {
+    for (const bool smooth : {false, true}) {
+      for (const auto& row : rows) {
+        Picture picture(ratio, 2 * kMiddle + 1, 2 * kMiddle + 1);
+        picture.setSmooth(smooth);
+        picture.arc(kMiddle, kMiddle, kRadius, row.from, row.to, kInk);
+        const QImage shown = picture.image();
+        std::string quarters;
+        for (const QPoint way : {QPoint(1, -1), QPoint(-1, -1), QPoint(-1, 1), QPoint(1, 1)}) {
+          bool drawn = false;
+          for (int i = kRadius / 2; i < kRadius; ++i) {
+            const QPoint at = QPoint(kMiddle, kMiddle) + way * i;
+            drawn = drawn || shown.pixelColor(at * ratio) != QColor(Qt::black);
+          }
+          quarters += drawn ? 'x' : '-';
+        }
+        EXPECT_EQ(quarters, row.quarters) << row.from << " to " << row.to << " ratio " << ratio;
+      }
+    }
+  }
+}
+
+/// The greatest difference of brightness of a dot.
+int difference(const QImage& one, const QImage& other) {
+  int most = 0;
+  for (int y = 0; y < one.height(); ++y) {
+    for (int x = 0; x < one.width(); ++x) {
+      most = std::max(most, std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))));
+    }
+  }
+  return most;
+}
+
+TEST(PictureBox, SmoothCirclesAreEvenToAllSides) {
+  constexpr int kRounding = 24;
+  for (const int ratio : {1, 2}) {
+    Picture picture(ratio, 21, 21);
+    picture.setSmooth(true);
+    picture.setLineWidth(2);
+    picture.disc(10, 10, 6, 0x0000FF);
+    picture.circle(10, 10, 8, kInk);
+    const QImage shown = picture.image();
+    EXPECT_LE(difference(shown, shown.mirrored(true, false)), kRounding) << ratio;
+    EXPECT_LE(difference(shown, shown.transformed(QTransform().rotate(90))), kRounding) << ratio;
+    EXPECT_EQ(shown.pixelColor(10 * ratio, 10 * ratio), QColor(255, 0, 0));
+    EXPECT_EQ(shown.pixelColor(2 * ratio, 10 * ratio), QColor(Qt::white));
+  }
+}
+
+TEST(PictureBox, InvertedTextIsReadableOnBothSides) {
+  Picture picture(1, 20, 10);
+  picture.clear(0xFFFFFF);
+  picture.filledBox(5, 2, 14, 7, 0x800000);
+  picture.invertedBox(9, 9, 0, 0, 0x800000);
+  const QImage shown = picture.image();
+  // Colours are blue-green-red: 0x800000 is a dark blue.
+  EXPECT_EQ(shown.pixelColor(16, 1), QColor(0xFF, 0xFF, 0xFF));
+  EXPECT_EQ(shown.pixelColor(12, 5), QColor(0x00, 0x00, 0x80));
+  EXPECT_EQ(shown.pixelColor(2, 1), QColor(0x00, 0x00, 0x80));
+  EXPECT_EQ(shown.pixelColor(7, 5), QColor(0xFF, 0xFF, 0xFF));
+}
+
+TEST(PictureBox, FontSizesAreInPointsWhateverSetTheFont) {
+  Picture picture(1, 60, 40);
+  picture.setFontSize(20);
+  EXPECT_EQ(picture.fontSize(), 20);
+  const int wide = picture.textWidth("0123");
+  picture.setFontSize(10);
+  EXPECT_NEAR(picture.textWidth("0123"), wide / 2.0, 3);
+  picture.setFontSize(0);
+  EXPECT_EQ(picture.fontSize(), 1);
+  QFont inPixels = picture.font();
+  inPixels.setPixelSize(40);
+  picture.setFont(inPixels);
+  EXPECT_GT(picture.fontSize(), 20);
+  // The text stays within the box that its measures promise.
+  picture.setFontSize(12);
+  picture.text(2, 3, "W", kInk);
+  const std::string dots = picture.dots();
+  EXPECT_NE(dots.find('#'), dots.npos);
+  picture.filledBox(2, 3, 2 + picture.textWidth("W"), 3 + picture.textHeight("W"), 0);
+  EXPECT_EQ(picture.dots().find('#'), std::string::npos);
+}
+
+}  // namespace
+}  // namespace vktest
