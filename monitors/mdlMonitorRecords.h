@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "base/clsPicture.h"
@@ -169,6 +170,31 @@ extern std::array<WaveMonitorRec, kWaveMonitors> gWaveMoni;
 extern std::array<XYMonitorRec, kXYMonitors> gXYMoni;
 extern std::array<BarMonitorRec, kBarMonitors> gBarMoni;
 extern std::array<CircleMonitorRec, kCircleMonitors> gCircleMoni;
+
+enum class MonitorKind { kNumerical, kWave, kXY, kBar, kCircle };
+
+/// In the order in which everything that goes over all monitors takes them.
+inline constexpr std::array kMonitorKinds{MonitorKind::kNumerical, MonitorKind::kWave,
+                                          MonitorKind::kXY, MonitorKind::kBar,
+                                          MonitorKind::kCircle};
+inline constexpr std::size_t monitorCount(MonitorKind kind) {
+  constexpr std::array kCounts{kNumMonitors, kWaveMonitors, kXYMonitors, kBarMonitors,
+                               kCircleMonitors};
+  return kCounts[static_cast<std::size_t>(kind)];
+}
+
+/// What the records of all kinds have in common, the record itself being changed through it.
+struct MonitorFields {
+  bool& on;
+  std::string& caption;
+  int32_t& top;
+  int32_t& left;
+  int32_t& height;
+  int32_t& width;
+  std::span<int32_t> serial;   ///< one element for each channel that the monitor shows
+  std::span<int32_t> channel;  ///< as many; 1 to 4 unless a file holds nonsense
+};
+MonitorFields monitorFields(MonitorKind kind, std::size_t index);
 
 /// Every record to its defaults.
 void resetMonitorRecords();

@@ -12,12 +12,12 @@
 #include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
 #include "link/vk240q_lib.h"
+#include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "shell/clsMakeSpecialFolder.h"
 
 namespace vk {
 
-bool gMonitorRun = true;
 int32_t gStartMode = 0;
 
 namespace {
@@ -105,7 +105,7 @@ void setDefaults() {
   gStatusContents = 0;
   gDefaultFolder = kDefaultFolder;
   resetBoxTable();
-  gMonitorRun = true;
+  resetMonitorCycle();
   gStartMode = 0;
   Vk240qSetReadTimeout(kTimeoutDefault);
 }
@@ -122,11 +122,9 @@ void readConfig() {
   if (!folder.empty()) gDefaultFolder = folder;
 }
 
-void writeConfig() {
+bool writeConfig() {
   const std::string path = configPath();
-  if (path.empty()) return;
-  // At the end of the program nobody is left to be told; the old file is still whole.
-  static_cast<void>(writeTextFile(path, configText()));
+  return !path.empty() && writeTextFile(path, configText()) == 0;
 }
 
 void clearTempFiles(bool all, std::string_view fileList) {

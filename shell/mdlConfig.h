@@ -13,8 +13,6 @@
 
 namespace vk {
 
-/// The monitor cycle may run; set by setDefaults and never cleared.
-extern bool gMonitorRun;
 /// Result of the last scan for boxes, a StartMode.
 extern int32_t gStartMode;
 
@@ -25,8 +23,8 @@ void setDefaults();
 /// Reads the file, which is written from the present settings when it is missing, and makes the
 /// folder of temporary files.
 void readConfig();
-/// Replaces the file. A failure is not reported: the old file then stays whole.
-void writeConfig();
+/// Replaces the file. False after a failure, which is not reported: the old file then stays whole.
+bool writeConfig();
 /// Deletes every file of the temporary folder (only when `all` is set), then the files named in
 /// `fileList`, a CR LF ended line each, up to the first empty line. Failures are not reported.
 void clearTempFiles(bool all, std::string_view fileList);

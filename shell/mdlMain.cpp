@@ -9,6 +9,7 @@
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
 #include "link/mdlUSBCommand.h"
+#include "monitors/mdlMonitorCycle.h"
 #include "shell/clsDPointCheck.h"
 
 namespace vk {

@@ -8,6 +8,7 @@
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
 #include "link/mdlBoxTable.h"
+#include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "tests/support/data_folder.h"
 #include "tests/support/fake_desktop.h"

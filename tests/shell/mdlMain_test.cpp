@@ -9,6 +9,7 @@
 #include "base/mdlMessages.h"
 #include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
+#include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "tests/support/data_folder.h"
 #include "tests/support/fake_desktop.h"

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// What the pictures of several kinds of monitor have in common: places, the grid of ten divisions,
+// and the marks of held extremes.
+#pragma once
+
+#include <cstdint>
+
+#include "base/clsPicture.h"
+
+namespace vk {
+
+/// Colours of the held maximum and minimum; a mark whose value lies beyond the picture is yellow.
+inline constexpr Colour kMaxColour = 0x8000FF;
+inline constexpr Colour kMinColour = 0xFF8000;
+
+inline constexpr int kDivisions = 10;
+/// Pixels of a picture's extent that its scale leaves free.
+inline constexpr int kFramePixels = 4;
+/// Grid lines on each side of the centre; the fifth would be the edge.
+inline constexpr int kGridLines = 4;
+
+/// Where something goes in a form, in pixels. A place without a size is for what finds no room.
+struct MonitorPlace {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  bool operator==(const MonitorPlace&) const = default;
+};
+
+/// Pixels to a unit on an axis whose ten divisions of `full` units take the picture's extent less
+/// its frame; 0 when the scale of the file is of no use.
+float pixelsPerUnit(int32_t extent, float full);
+/// The zero's way from the centre, for a slider at so many half divisions.
+int32_t groundShift(float full, int32_t halfDivisions, float scale);
+/// The same in units.
+float groundLevel(float full, int32_t halfDivisions);
+
+/// Dotted lines at every division, upright ones and then level ones.
+void drawDivisions(clsPicture& picture, int32_t centerX, int32_t centerY, Colour colour);
+/// Dotted lines through the centre.
+void drawCentre(clsPicture& picture, int32_t centerX, int32_t centerY, Colour colour);
+/// A level line pair at each division of `height`, which may be less than the picture's.
+void drawLevels(clsPicture& picture, int32_t centerY, int32_t height, Colour colour);
+
+/// Where and how the mark of an extreme is drawn: in its row, or in yellow at the edge beyond which
+/// it lies.
+struct ExtremeMark {
+  int32_t row = 0;
+  Colour colour = 0;
+  bool operator==(const ExtremeMark&) const = default;
+};
+ExtremeMark markAt(float row, int32_t height, Colour colour);
+
+}  // namespace vk

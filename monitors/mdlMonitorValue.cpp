@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "monitors/mdlMonitorValue.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "base/mdlText.h"
+#include "conditions/mdlCodeTables.h"
+#include "link/mdlBoxTable.h"
+
+namespace vk {
+
+namespace {
+
+constexpr float kTenth = 10.0F;
+constexpr float kHalfVoltFactor = 4.0F;
+constexpr int16_t kHalfVolt = 1;
+constexpr double kFarOff = 1000000.0;
+
+/// The record behind slot and channel; null when one of them does not exist.
+const MeasureSetting* boxOf(int32_t slot, int32_t channel) {
+  if (!isBoxSlot(slot) || channel < 1 || channel > kChannels) return nullptr;
+  return &gBoxTable[static_cast<std::size_t>(slot)];
+}
+
+}  // namespace
+
+bool isBoxSlot(int32_t slot) {
+  return slot >= 1 && slot <= kBoxes;
+}
+
+std::string_view readingOf(std::string_view reply, int32_t channel) {
+  if (channel < 1 || channel > kChannels) return {};
+  const auto first = static_cast<std::size_t>(channel - 1) * kReadingLength;
+  return first < reply.size() ? reply.substr(first, kReadingLength) : std::string_view{};
+}
+
+bool isTenthRange(int32_t slot, int32_t channel) {
+  const auto* box = boxOf(slot, channel);
+  if (!box) return false;
+  const int16_t range = box->range[static_cast<std::size_t>(channel)];
+  return (range >= 8 && range <= 11) || (range >= 20 && range <= 23);
+}
+
+bool isHalfVolt(int32_t slot, int32_t channel) {
+  const auto* box = boxOf(slot, channel);
+  return box && box->carrier[static_cast<std::size_t>(channel)] == kHalfVolt;
+}
+
+std::optional<float> toDisplayValue(std::string_view text, int32_t slot, int32_t channel) {
+  const auto* box = boxOf(slot, channel);
+  const auto number = readSingle(text);
+  if (!box || !number) return std::nullopt;
+  float value = *number * box->coeff[static_cast<std::size_t>(channel)];
+  if (isTenthRange(slot, channel)) value /= kTenth;
+  if (isHalfVolt(slot, channel)) value *= kHalfVoltFactor;
+  return value;
+}
+
+Extremes::Change Extremes::hold(float value) {
+  if (value > max) {
+    max = value;
+    return Change::kMax;
+  }
+  if (value < min) {
+    min = value;
+    return Change::kMin;
+  }
+  return Change::kNone;
+}
+
+std::optional<std::string> ReadingLabel::take() {
+  if (now_ == taken_) return std::nullopt;
+  taken_ = now_;
+  switch (now_.says) {
+    case Says::kNothing:
+      break;
+    case Says::kValue:
+      return textOf(now_.value);
+    case Says::kUnused:
+      return "unused";
+    case Says::kError:
+      return "error";
+    case Says::kLost:
+      return "---";
+  }
+  return "";
+}
+
+int32_t toShift(double pixels) {
+  using Limits = std::numeric_limits<int32_t>;
+  if (std::isnan(pixels)) return 0;
+  return roundWhole(std::clamp(pixels, double{Limits::min()}, double{Limits::max()}));
+}
+
+int32_t toRow(double pixels) {
+  return std::isnan(pixels) ? 0 : roundWhole(std::clamp(pixels, -kFarOff, kFarOff));
+}
+
+std::string monitorCaption(std::size_t index, std::string_view caption) {
+  return "[" + std::to_string(index + 1) + "] " + std::string(caption);
+}
+
+std::string titleOfCaption(std::string_view windowCaption, std::size_t index) {
+  constexpr std::size_t kBracketsAndBlank = 3;
+  return mid(windowCaption, std::to_string(index + 1).size() + kBracketsAndBlank + 1);
+}
+
+std::string serialLabel(int32_t serial) {
+  return "Ser: " + serialText(serial);
+}
+
+std::string channelLabel(int32_t channel) {
+  return "Ch: " + textOf(channel);
+}
+
+std::string unitLabel(int32_t slot, int32_t channel) {
+  const auto* box = boxOf(slot, channel);
+  if (!box) return {};
+  const auto unit = static_cast<std::size_t>(box->unit[static_cast<std::size_t>(channel)]);
+  return unit < unitName.size() ? std::string(unitName[unit]) : std::string();
+}
+
+}  // namespace vk
