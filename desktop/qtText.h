@@ -2,6 +2,7 @@
 // Texts and names between the logic (bytes) and Qt, and small helpers for building forms.
 #pragma once
 
+#include <QFont>
 #include <QLocale>
 #include <QString>
 #include <QWidget>
@@ -32,6 +33,9 @@ Widget* named(Widget* widget, const QString& name, const QString& spoken) {
   widget->setAccessibleName(spoken);
   return widget;
 }
+
+/// The base font in the largest size in which the text has room, if only a pixel.
+QFont fittingFont(const QFont& base, const QString& text, const QSize& room);
 
 /// Puts a window in the middle of the screen it is on.
 void centreOnScreen(QWidget& window);
