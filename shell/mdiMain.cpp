@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QRadioButton>
 #include <QScreen>
 #include <QStatusTipEvent>
@@ -22,7 +23,11 @@
 #include "desktop/qtText.h"
 #include "link/mdlConnection.h"
 #include "link/mdlUSBCommand.h"
+#include "monitors/frmMonitor.h"
+#include "monitors/frmSetMonitor.h"
+#include "monitors/mdlMonitorSelection.h"
 #include "shell/frmBoxPanel.h"
+#include "shell/frmMsgButton.h"
 #include "shell/frmSelectMeterCh.h"
 #include "shell/frmStart.h"
 #include "shell/frmStatusBar.h"
@@ -37,6 +42,7 @@ namespace vk {
 
 mdiMain::~mdiMain() {
   gLinkEvents.countersChanged = {};
+  gMonitorHandlers = {};
 }
 
 // --- boxes ----------------------------------------------------------------------------------
@@ -132,10 +138,7 @@ void mdiMain::chooseStatusContents(int contents) {
 
 void mdiMain::Auto_Reconnect() {
   autoReconnect({[this](bool on) { on ? tmrStatus_->start() : tmrStatus_->stop(); },
-                 {},
-                 logBoxOf(*txtDummy_),
-                 {},
-                 [this] { fillBoxPanels(); }});
+                 logBoxOf(*txtDummy_), [this] { fillBoxPanels(); }});
 }
 
 void mdiMain::mnuCReconnect() {
@@ -143,6 +146,61 @@ void mdiMain::mnuCReconnect() {
   desktop().setHourglass(true);
   Auto_Reconnect();
   desktop().setHourglass(false);
+}
+
+// --- monitors ---------------------------------------------------------------------------------
+
+void mdiMain::loadMonitor(MonitorKind kind) {
+  // Entering lets events run, which may unload the form.
+  const QPointer<frmMonitor> form = newMonitorForm(kind);
+  form->enter(*area_);
+  if (form && form->parentWidget()) makeRoomFor(form->parentWidget()->geometry());
+}
+
+// The frame opens as a strip; its first child window would be cut off.
+void mdiMain::makeRoomFor(const QRect& child) {
+  if (!placed_ || isMaximized() || isFullScreen() || isMinimized()) return;
+  constexpr int kRim = 8;
+  const QRect free = screen()->availableGeometry();
+  const QRect frame = frameGeometry();
+  const auto missing = [](int wanted, int size, int room) {
+    return qBound(0, wanted + kRim - size, qMax(0, room));
+  };
+  const int wider = missing(child.right(), area_->width(), free.width() - frame.width());
+  const int higher = missing(child.bottom(), area_->height(), free.bottom() - frame.bottom());
+  if (wider == 0 && higher == 0) return;
+  // What has no room on the right of the screen is taken on the left.
+  const int left = qMin(frame.left(), free.right() - frame.width() - wider);
+  if (left != frame.left()) move(left, frame.top());
+  resize(width() + wider, height() + higher);
+}
+
+void mdiMain::arrange(const Arrangement& arrangement) {
+  QList<QMdiSubWindow*> shown;
+  std::vector<TilePlace> windows;
+  for (auto* child : area_->subWindowList()) {
+    if (!child->isVisible() || child->isMinimized()) continue;
+    child->showNormal();
+    shown << child;
+    windows.push_back({child->x(), child->y(), child->width(), child->height()});
+  }
+  const QSize all = area_->viewport()->size();
+  const auto places = arrangement(windows, all.width(), all.height());
+  for (qsizetype i = 0; i < shown.size(); ++i) {
+    const auto& place = places[static_cast<std::size_t>(i)];
+    shown[i]->setGeometry(place.left, place.top, place.width, place.height);
+    shown[i]->raise();
+  }
+}
+
+void mdiMain::loseLink() {
+  frmMsgButton notice(QStringLiteral("Communication Error"),
+                      QStringLiteral("Communication Error has occurred.It is reconnected."),
+                      QStringLiteral("Reconnecting.."), QStringLiteral("OK"), this);
+  notice.exec();
+  if (desktop().ending()) return;
+  Auto_Reconnect();
+  if (!desktop().ending()) showCounters();
 }
 
 std::optional<int32_t> mdiMain::ActiveFormFind() const {
@@ -165,6 +223,7 @@ void mdiMain::showCounters() {
 void mdiMain::closeEvent(QCloseEvent* event) {
   tmrStatus_->stop();
   event->accept();
+  unloadMonitors();
   shutDown(gTempFileList);
 }
 
@@ -195,15 +254,27 @@ void mdiMain::placeFrame() {
 
 void mdiMain::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (placed_ || event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
-  placed_ = true;
+  if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
   QTimer::singleShot(0, this, &mdiMain::fitFrame);
 }
 
-// The given height counts the frame, whose size is known once the window manager has made it.
+void mdiMain::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  // Without a window manager no window ever becomes active.
+  constexpr int kPatienceMs = 500;
+  QTimer::singleShot(kPatienceMs, this, &mdiMain::fitFrame);
+}
+
+// The given height counts the frame, whose size is known once the window manager has made it. To
+// resize the window earlier would also put its title bar above the screen.
 void mdiMain::fitFrame() {
+  if (placed_) return;
+  placed_ = true;
   const int frameHeight = frameGeometry().height() - height();
   if (!isMaximized()) resize(width(), toPixels(framePlace(0, 0).height) - frameHeight);
+  for (const auto* child : area_->subWindowList()) {
+    if (child->isVisible()) makeRoomFor(child->geometry());
+  }
 }
 
 // --- actions on a box -------------------------------------------------------------------------
@@ -234,6 +305,11 @@ void mdiMain::mnuFMeterRead() {
   form.exec();
   txtDelFile_->setPlainText(toQt(gTempFileList));
   if (waveRequestSet == 1) lblStatusTip_->setText(tr("Read; this version cannot show waves yet."));
+}
+
+void mdiMain::mnuEMonitorSet() {
+  frmSetMonitor(this).exec();
+  applyMonitorSelection();
 }
 
 }  // namespace vk

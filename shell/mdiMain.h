@@ -7,7 +7,10 @@
 #include <QMainWindow>
 #include <array>
 #include <functional>
+#include <vector>
 
+#include "monitors/mdlMonitorRecords.h"
+#include "shell/mdlArrange.h"
 #include "shell/mdlBoxPanel.h"
 
 class QAction;
@@ -49,6 +52,7 @@ class mdiMain : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   /// A menu item; without an action it stands in its place, disabled.
@@ -84,8 +88,16 @@ class mdiMain : public QMainWindow {
   void showBars();
   void clickCounters();
 
+  void loadMonitor(MonitorKind kind);
+  void makeRoomFor(const QRect& child);
+  using Arrangement =
+      std::function<std::vector<TilePlace>(const std::vector<TilePlace>&, int width, int height)>;
+  void arrange(const Arrangement& arrangement);
+  void loseLink();
+
   bool selectBox(int32_t mode, bool check = false);
   void mnuFMeterRead();
+  void mnuEMonitorSet();
   void mnuCReconnect();
 
   QWidget* picShtCut_;

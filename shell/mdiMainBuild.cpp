@@ -20,9 +20,9 @@
 #include "desktop/qtText.h"
 #include "desktop/uiIcons.h"
 #include "link/mdlUSBCommand.h"
+#include "monitors/mdlMonitorCycle.h"
 #include "shell/frmBoxPanel.h"
 #include "shell/mdiMain.h"
-#include "shell/mdlArrange.h"
 #include "shell/mdlConfig.h"
 
 namespace vk {
@@ -71,6 +71,7 @@ mdiMain::mdiMain() {
   buildStatusBar();
   buildCounters();
   buildTimers();
+  gMonitorHandlers = {[this](MonitorKind kind) { loadMonitor(kind); }, [this] { loseLink(); }};
   placeFrame();
   fillBoxPanels();
 }
@@ -125,10 +126,8 @@ void mdiMain::buildSettingsMenu() {
                  "&Measurement condition setting",
                  "Sets channels, ranges, sampling and trigger of a box (not in this version yet)",
                  {}});
-  addItem(menu, {"mnuEMonitorSet",
-                 "M&onitor setting",
-                 "Chooses which live monitors are shown (not in this version yet)",
-                 {}});
+  addItem(menu, {"mnuEMonitorSet", "M&onitor setting", "Chooses which live monitors are shown",
+                 [this] { mnuEMonitorSet(); }});
   addItem(menu, {"mnuETimeSet",
                  "Date-&Time setting",
                  "Sets the clock of a box (not in this version yet)",
@@ -137,26 +136,17 @@ void mdiMain::buildSettingsMenu() {
 
 void mdiMain::buildViewMenus() {
   auto* window = addMenu("mnuWindow", tr("&Window"));
-  const auto arrange = [this](Tiling tiling) {
-    QList<QMdiSubWindow*> shown;
-    for (auto* child : area_->subWindowList()) {
-      if (child->isVisible() && !child->isMinimized()) shown << child;
-    }
-    const QSize all = area_->viewport()->size();
-    const auto places =
-        tilePlaces(tiling, static_cast<int>(shown.size()), all.width(), all.height());
-    for (std::size_t i = 0; i < places.size(); ++i) {
-      auto* child = shown[static_cast<qsizetype>(i)];
-      child->showNormal();
-      child->setGeometry(places[i].left, places[i].top, places[i].width, places[i].height);
-    }
+  const auto tile = [](Tiling tiling) {
+    return [tiling](const std::vector<TilePlace>& windows, int width, int height) {
+      return tilePlaces(tiling, static_cast<int>(windows.size()), width, height);
+    };
   };
   addItem(window, {"mnuWHorizontal", "&Horizontal", "Arranges the child windows one below another",
-                   [arrange] { arrange(Tiling::kHorizontal); }});
+                   [=, this] { arrange(tile(Tiling::kHorizontal)); }});
   addItem(window, {"mnuWVertical", "&Vertical", "Arranges the child windows side by side",
-                   [arrange] { arrange(Tiling::kVertical); }});
+                   [=, this] { arrange(tile(Tiling::kVertical)); }});
   addItem(window, {"mnuVCascade", "&Cascade", "Arranges the child windows overlapping",
-                   [this] { area_->cascadeSubWindows(); }});
+                   [this] { arrange(cascadePlaces); }});
 
   auto* view = addMenu("mnuView", tr("&View"));
   mnuVShortCut_ =

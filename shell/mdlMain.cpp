@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <tuple>
 
 #include "base/clsDesktop.h"
 #include "base/clsFlagGuard.h"
@@ -13,8 +14,6 @@
 #include "shell/clsDPointCheck.h"
 
 namespace vk {
-
-std::function<bool()> gMonitorCycle;
 
 namespace {
 
@@ -35,7 +34,7 @@ bool localeRefused() {
 
 void runNormally(const MainStages& stages) {
   run(stages.showMain);
-  run(stages.openStoredMonitors);
+  openStoredMonitors();
   waitSeconds(kSettleSeconds);
   monitorLoop();
 }
@@ -85,9 +84,9 @@ void Main(const MainStages& stages) {
 void monitorLoop() {
   constexpr int kNoEnd = -1;
   while (!desktop().ending()) {
-    const bool monitorOn = gMonitorRun && gMonitorCycle && gMonitorCycle();
+    const bool asked = gMonitorRun && monitorCycle();
     if (desktop().ending()) return;
-    if (monitorOn) {
+    if (asked) {
       desktop().doEvents();
     } else {
       desktop().waitEvents(kNoEnd);
@@ -102,17 +101,29 @@ void shutDown(std::string_view fileList) {
   desktop().endProgram();
 }
 
+namespace {
+
+/// Everything as after a start. The monitors' arrangement goes through the file, or past it when
+/// the file cannot be written.
+void restartSettings() {
+  const auto monitors = std::tuple(gNumMoni, gWaveMoni, gXYMoni, gBarMoni, gCircleMoni);
+  const bool kept = writeConfig();
+  setDefaults();
+  readConfig();
+  if (!kept) std::tie(gNumMoni, gWaveMoni, gXYMoni, gBarMoni, gCircleMoni) = monitors;
+}
+
+}  // namespace
+
 void autoReconnect(const ReconnectSteps& steps) {
   static bool running = false;
   if (running) return;
   const FlagGuard guard(running);
   run(steps.statusTimer, false);
-  run(steps.unloadMonitors);
-  writeConfig();
-  setDefaults();
-  readConfig();
+  unloadMonitors();
+  restartSettings();
   connectBoxes(false, steps.log);
-  run(steps.openStoredMonitors);
+  openStoredMonitors();
   waitSeconds(kSettleSeconds);
   if (desktop().ending()) return;
   run(steps.rebuildPanels);

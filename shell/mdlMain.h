@@ -14,19 +14,16 @@ namespace vk {
 
 /// The windows that the start leads to.
 struct MainStages {
-  std::function<void()> showStart;           ///< modal; sets gStartMode and gStartOK
-  std::function<void()> showMain;            ///< not modal
-  std::function<void()> openStoredMonitors;  ///< every monitor that was on
-  std::function<void()> showUpgrade;         ///< modal
+  std::function<void()> showStart;    ///< modal; sets gStartMode and gStartOK
+  std::function<void()> showMain;     ///< not modal
+  std::function<void()> showUpgrade;  ///< modal
 };
 
 /// The whole run. Returns when the program is to end.
 void Main(const MainStages& stages);
 
-/// One pass over all monitors; true while a monitor is on. Unset means that none is.
-extern std::function<bool()> gMonitorCycle;
-/// Pass after pass, each followed by all pending events, until the program is ending. With no
-/// monitor on it sleeps until an event comes.
+/// Pass after pass over the monitors, each followed by all pending events, until the program is
+/// ending. After a pass that had no box to ask it sleeps until an event comes.
 void monitorLoop();
 
 /// The end of the program, from the unload of the main window: configuration, temporary files
@@ -36,10 +33,8 @@ void shutDown(std::string_view fileList);
 /// What a reconnect does to the windows.
 struct ReconnectSteps {
   std::function<void(bool on)> statusTimer;
-  std::function<void()> unloadMonitors;      ///< numerical, wave, X-Y, bar, circle
-  LogBox log;                                ///< hidden
-  std::function<void()> openStoredMonitors;  ///< every monitor that was on
-  std::function<void()> rebuildPanels;       ///< box list and panels of the main window
+  LogBox log;                           ///< hidden
+  std::function<void()> rebuildPanels;  ///< box list and panels of the main window
 };
 
 /// Looks for the boxes again; the monitors' arrangement survives through the configuration file.

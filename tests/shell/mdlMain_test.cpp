@@ -4,15 +4,17 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
+#include <vector>
 
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
 #include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
-#include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "tests/support/data_folder.h"
 #include "tests/support/fake_desktop.h"
+#include "tests/support/fake_monitor.h"
 #include "tests/support/scripted_box.h"
 
 namespace vk {
@@ -24,7 +26,6 @@ class MainRun : public testing::Test {
  protected:
   MainRun() : before_(fs::current_path()) {
     vktest::library() = {};
-    gMonitorCycle = nullptr;
     desktop_.folders[SpecialFolder::kCommonAppData] = folder_.path();
     desktop_.program = folder_.path();
     setDefaults();
@@ -35,17 +36,20 @@ class MainRun : public testing::Test {
                  // The first yield of the run ends it, as the user's close of the window would.
                  desktop_.yields.push_back([] { shutDown(""); });
                },
-               [this] { note("monitors"); }, [this] { note("upgrade form"); }};
+               [this] { note("upgrade form"); }};
+    gMonitorHandlers.load = [this](MonitorKind kind) {
+      monitors_.push_back(
+          std::make_unique<vktest::FakeMonitor>(kind, gMoniLoadIndex, desktop_.log));
+    };
     steps_ = {[this](bool on) { note(on ? "timer on" : "timer off"); },
-              [this] { note("unload"); },
               {{}, [this](const std::string& line) { scan_ += line; }},
-              stages_.openStoredMonitors,
               [this] { note("panels"); }};
   }
   ~MainRun() override {
     fs::current_path(before_);
-    gMonitorCycle = nullptr;
     gRestoreDefaults = nullptr;
+    gMonitorHandlers = {};
+    monitors_.clear();
     vktest::library() = {};
     setDefaults();
   }
@@ -56,6 +60,7 @@ class MainRun : public testing::Test {
   vktest::DataFolder folder_;
   vktest::FakeDesktop desktop_;
   MainStages stages_;
+  std::vector<std::unique_ptr<vktest::FakeMonitor>> monitors_;
   ReconnectSteps steps_;
   std::string scan_;
   int32_t mode_ = 0;
@@ -64,7 +69,7 @@ class MainRun : public testing::Test {
 
 TEST_F(MainRun, RoadsByStartMode) {
   const std::tuple<int32_t, int32_t, int32_t, const char*, const char*> rows[] = {
-      {0, 1, 1, "start form\nmain window\nmonitors\nend\n", "timeout(7)\nstatus\nclose\n"},
+      {0, 1, 1, "start form\nmain window\nend\n", "timeout(7)\nstatus\nclose\n"},
       {1, 1, 1, "start form\nupgrade form\nend\n", "timeout(7)\n"},
       {2, 1, 1, "start form\nend\n", "timeout(7)\n"},
       {3, 1, 1, "start form\n", "timeout(7)\n"},
@@ -116,28 +121,44 @@ TEST_F(MainRun, DecimalCommaEndsBeforeAnyFormAndFile) {
   EXPECT_FALSE(desktop_.ended);
 }
 
-TEST_F(MainRun, LoopSleepsWhileNoMonitorIsOn) {
-  int cycles = 0;
+TEST_F(MainRun, OpensTheStoredMonitorsBehindTheMainWindow) {
+  gNumMoni[31].NUM_ONOFF = gCircleMoni[0].CRL_ONOFF = true;
+  writeConfig();
+  Main(stages_);
+  EXPECT_EQ(desktop_.takeLog(),
+            "start form\nmain window\nnumerical 31 init\nnumerical 31 show\ncircle 0 init\n"
+            "circle 0 show\nend\n");
+}
+
+TEST_F(MainRun, LoopSleepsAfterAPassWithoutABoxToAsk) {
+  vktest::plugIn({{1, vktest::ScriptedBox{}}});
+  gBoxTable[1].handle = 1;
+  gBoxTable[1].serial = 1;
+  gNumMoni[0].NUM_ONOFF = true;
+  gNumMoni[0].NUM_SER = 1;
   std::string rounds;
-  gMonitorCycle = [&] { return ++cycles == 2 || cycles == 3; };
-  for (int round = 1; round <= 5; ++round) {
-    desktop_.yields.push_back([&, round] {
-      rounds += std::to_string(cycles) + "@" + std::to_string(desktop_.clock) + " ";
-      gMonitorRun = round != 4;
-      desktop_.ended = round == 5;
+  const auto round = [&](std::function<void()> action) {
+    desktop_.yields.push_back([&, action] {
+      rounds += std::to_string(vktest::library().transcript.size()) + "@" +
+                std::to_string(desktop_.clock) + " ";
+      action();
     });
-  }
+  };
+  round([] {});
+  round([] { gBoxTable[1].handle = kLostHandle; });
+  round([] { gBoxTable[1].handle = 1; });
+  round([] { gMonitorRun = false; });
+  round([] { gMonitorRun = true, gNumMoni[0].NUM_ONOFF = false; });
+  round([this] { desktop_.ended = true; });
   desktop_.clock = 0;
+  vktest::library().answer = [](int32_t, const std::string&) {
+    return vktest::ScriptedLibrary::Reply{"+00001+00002+00003+00004\r\n", 80};
+  };
   monitorLoop();
-  // Each wait moves the clock on by one: rounds 2 and 3 only yielded; the flag was down in 5.
-  EXPECT_EQ(rounds, "1@1 2@1 3@1 4@2 4@3 ");
+  // Each wait moves the clock on by one; a pass is a write and a read.
+  EXPECT_EQ(rounds, "2@0 4@0 4@1 6@1 6@2 6@3 ");
   monitorLoop();
-  desktop_.ended = false;
-  const int yields = desktop_.yieldCount;
-  gMonitorCycle = [&] { return ++cycles, desktop_.ended = true; };
-  monitorLoop();
-  EXPECT_EQ(cycles, 5);
-  EXPECT_EQ(desktop_.yieldCount, yields);
+  EXPECT_TRUE(desktop_.yields.empty());
 }
 
 TEST_F(MainRun, ShutDownKeepsTheSettingsAndDropsTheTemporaryFiles) {
@@ -160,12 +181,14 @@ TEST_F(MainRun, ReconnectKeepsTheMonitorsAndFindsTheBoxesAnew) {
   gNumMoni[3].NUM_ONOFF = true;
   gCommSendErrCnt = 9;
   desktop_.clock = 0;
-  steps_.unloadMonitors = [this] {
-    note("unload");
-    gNumMoni[3].NUM_TOP = 315;  // a window stores its place as it goes
-  };
+  openMonitor(MonitorKind::kNumerical, 3);
+  openMonitor(MonitorKind::kCircle, 7);  // hidden since: goes as well, and stays off
+  desktop_.takeLog();
+  monitors_[0]->onUnload = [] { gNumMoni[3].NUM_TOP = 315; };  // a window stores its place
   autoReconnect(steps_);
-  EXPECT_EQ(desktop_.takeLog(), "timer off\nunload\nmonitors\npanels\ntimer on\n");
+  EXPECT_EQ(desktop_.takeLog(),
+            "timer off\nnumerical 3 unload\ncircle 7 unload\nnumerical 3 init\n"
+            "numerical 3 show\npanels\ntimer on\n");
   EXPECT_GE(desktop_.clock, 500);
   EXPECT_TRUE(gNumMoni[3].NUM_ONOFF);
   EXPECT_EQ(gNumMoni[3].NUM_TOP, 315);
@@ -175,6 +198,16 @@ TEST_F(MainRun, ReconnectKeepsTheMonitorsAndFindsTheBoxesAnew) {
   gCommSendErrCnt = 0;
 }
 
+TEST_F(MainRun, ReconnectKeepsTheMonitorsAlsoWhenTheFileCannotBeWritten) {
+  fs::create_directories(configFile());
+  vktest::library().devices = 0;
+  gBarMoni[2].BAR_ONOFF = true;
+  gBarMoni[2].BAR_CAPTION = "wing";
+  autoReconnect(steps_);
+  EXPECT_TRUE(gBarMoni[2].BAR_ONOFF);
+  EXPECT_EQ(gBarMoni[2].BAR_CAPTION, "wing");
+}
+
 TEST_F(MainRun, ReconnectRefusesABoxInUpgradeMode) {
   vktest::ScriptedBox upgrade;
   upgrade.upgrade = true;
@@ -182,20 +215,20 @@ TEST_F(MainRun, ReconnectRefusesABoxInUpgradeMode) {
   gRestoreDefaults = [this] { note("defaults"); };
   autoReconnect(steps_);
   EXPECT_EQ(desktop_.takeLog(),
-            "timer off\nunload\n"
+            "timer off\n"
             "box[Connection error][VK-480Q in upgrade mode is connected. Stop the upgrade mode and "
             "reconnect.][ok][none]\n"
-            "defaults\nmonitors\npanels\ntimer on\n");
+            "defaults\npanels\ntimer on\n");
 }
 
 TEST_F(MainRun, ReconnectRunsOnceAndTouchesNoWindowOnceTheProgramEnds) {
   vktest::library().devices = 0;
   desktop_.yields.push_back([this] { autoReconnect(steps_); });
   autoReconnect(steps_);
-  EXPECT_EQ(desktop_.takeLog(), "timer off\nunload\nmonitors\npanels\ntimer on\n");
+  EXPECT_EQ(desktop_.takeLog(), "timer off\npanels\ntimer on\n");
   desktop_.yields.push_back([this] { shutDown(""); });
   autoReconnect(steps_);
-  EXPECT_EQ(desktop_.takeLog(), "timer off\nunload\nmonitors\nend\n");
+  EXPECT_EQ(desktop_.takeLog(), "timer off\nend\n");
 }
 
 TEST_F(MainRun, QuestionBeforeAReconnectByHand) {
