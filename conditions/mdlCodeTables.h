@@ -37,6 +37,11 @@ inline constexpr auto chModeName =
 inline constexpr auto chModeFile = std::to_array<std::string_view>({"1", "2", "4"});
 /// Channels in use: 1 to the count of the mode.
 inline constexpr std::array<int, kModes> chModeCount{1, 2, 4};
+/// Of a record, which may hold nonsense: then all channels.
+inline constexpr int channelCount(int mode) {
+  return mode >= 0 && mode < kModes ? chModeCount[static_cast<std::size_t>(mode)]
+                                    : chModeCount.back();
+}
 
 // --- range ------------------------------------------------------------------------------------
 

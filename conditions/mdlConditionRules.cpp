@@ -53,7 +53,7 @@ void refillSampling(ConditionChoice& choice, int32_t family) {
 }
 
 void refillPreArea(ConditionChoice& choice) {
-  choice.preArea = selectFrom(preAreaList(choice.mode, choice.dataSize), choice.preArea);
+  choice.preArea = selectPreArea(preAreaList(choice.mode, choice.dataSize), choice.preArea);
 }
 
 bool within(int32_t value, int32_t least, int32_t most) {
@@ -140,6 +140,11 @@ std::vector<int32_t> preAreaList(int32_t mode, int32_t dataSize) {
 
 int32_t selectFrom(std::span<const int32_t> list, int32_t wanted) {
   return std::find(list.begin(), list.end(), wanted) == list.end() ? list.front() : wanted;
+}
+
+int32_t selectPreArea(std::span<const int32_t> list, int32_t wanted) {
+  const int32_t selected = selectFrom(list, wanted);
+  return wanted == kPreAreaFull && selected != wanted ? selectFrom(list, kPreAreaMax) : selected;
 }
 
 ConditionChoice onChannelModeChange(ConditionChoice choice, int32_t family) {
@@ -249,7 +254,7 @@ std::string_view settingErrorText(int32_t number) {
 
 bool triggerCaution(int32_t mode, int32_t triggerMode, const PerChannel<int16_t>& slopes) {
   if (triggerMode == kFreeRun) return false;
-  return std::all_of(slopes.begin(), slopes.begin() + valueAt(chModeCount, mode),
+  return std::all_of(slopes.begin(), slopes.begin() + channelCount(mode),
                      [](int16_t slope) { return slope == kSlopeOff; });
 }
 

@@ -36,6 +36,9 @@ std::vector<int32_t> dataSizeList(int32_t mode, int32_t sampling);
 std::vector<int32_t> preAreaList(int32_t mode, int32_t dataSize);
 /// `wanted` when the list has it, else the list's first entry.
 int32_t selectFrom(std::span<const int32_t> list, int32_t wanted);
+/// The same for a pre-area, but "Max" stands in for a wanted "100(99) %" that the list lacks: a
+/// setting file spells both alike.
+int32_t selectPreArea(std::span<const int32_t> list, int32_t wanted);
 
 /// The values that stand selected after the named choice was changed and the other lists were
 /// filled again: data size, sampling and pre-area in this order, the list of the changed choice

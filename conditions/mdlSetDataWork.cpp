@@ -62,10 +62,6 @@ int32_t trapped(Work work) {
   }
 }
 
-float throughLevelFormat(double level) {
-  return toSingle(formatNumber(level, "#0.0"));
-}
-
 void decodeLevel(MeasureSetting& record, std::size_t channel, std::string_view field) {
   switch (field.empty() ? '\0' : field.front()) {
     case 'N':
@@ -103,16 +99,10 @@ void decodeChannels(MeasureSetting& record, bool low, std::string_view text) {
   }
 }
 
-/// From this data size on the whole pre-area is called "Max".
-int32_t firstSizeOfMax(int32_t mode) {
-  static constexpr std::array<int32_t, kModes> kFirst{10, 9, 8};
-  return kFirst[static_cast<std::size_t>(mode)];
-}
-
 void decodePreArea(MeasureSetting& record, std::string_view field) {
   record.preArea = toIndex(roundWhole(toWhole(field) / 10.0));
-  if (record.preArea == kPreAreaFull && record.dataSize >= firstSizeOfMax(record.channelMode)) {
-    record.preArea = kPreAreaMax;
+  if (record.preArea == kPreAreaFull) {
+    record.preArea = toIndex(wholePreArea(record.channelMode, record.dataSize));
   }
 }
 
@@ -164,6 +154,16 @@ std::string_view filterCodeFor(bool low, int32_t filter) {
 }
 
 }  // namespace
+
+float throughLevelFormat(double level) {
+  return toSingle(formatNumber(level, "#0.0"));
+}
+
+int32_t wholePreArea(int32_t mode, int32_t dataSize) {
+  static constexpr std::array<int32_t, kModes> kFirstSizeOfMax{10, 9, 8};
+  const bool max = dataSize >= kFirstSizeOfMax[static_cast<std::size_t>(mode)];
+  return max ? kPreAreaMax : kPreAreaFull;
+}
 
 int32_t decodeSettingString(int32_t serial, std::string_view text) {
   return trapped([&] {

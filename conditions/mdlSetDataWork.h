@@ -27,6 +27,12 @@ inline constexpr std::string_view kDefaultCoeffs = "1.000000,1.000000,1.000000,1
 /// 0, or 1 at the first empty, unreadable or zero item; the channels before it are stored.
 [[nodiscard]] int32_t decodeCoeffList(int32_t serial, std::string_view text);
 
+/// A level as a record keeps it, with one decimal; throws TypeMismatch beyond a single.
+float throughLevelFormat(double level);
+/// What "100%" means: kPreAreaMax from the data size on that calls the whole pre-area so, else
+/// kPreAreaFull. `mode` must be an index of the channel modes.
+int32_t wholePreArea(int32_t mode, int32_t dataSize);
+
 /// LST 0, 1, 2 with their decoders; the sum of the decoders' results.
 [[nodiscard]] int32_t readMeasureSetting(int32_t serial);
 /// SET, UNT, CEF with the default texts; the sum of the three results.

@@ -3,6 +3,7 @@
 
 #include "base/clsDesktop.h"
 #include "base/mdlText.h"
+#include "conditions/mdlCodeTables.h"
 #include "link/mdlBoxTable.h"
 #include "shell/mdlBoxPanel.h"
 
@@ -22,11 +23,6 @@ int32_t serialOfText(std::string_view text) {
 }
 
 /// 1, 2 or 4.
-int32_t channelCount(int16_t channelMode) {
-  if (channelMode == 0) return 1;
-  return channelMode == 1 ? 2 : 4;
-}
-
 bool channelMissing(int32_t serial, int32_t channel) {
   const int32_t row = slotIndexOf(serial);
   return row > 0 && channel > channelCount(gBoxTable[row].channelMode);
