@@ -35,17 +35,22 @@ clsFieldGuard::clsFieldGuard(std::function<void()> complain, std::function<void(
 }
 
 void clsFieldGuard::watch(QLineEdit& field, Rule rule, Enter enter) {
-  add(field, field, std::move(rule), enter);
+  add({&field, &field, std::move(rule), enter});
 }
 
 void clsFieldGuard::watch(QComboBox& field, Rule rule) {
   // An editable list hands the focus of its text on to itself.
-  add(field, *field.lineEdit(), std::move(rule), Enter::kAccepts);
+  add({&field, field.lineEdit(), std::move(rule), Enter::kAccepts});
 }
 
-void clsFieldGuard::add(QWidget& widget, QLineEdit& edit, Rule rule, Enter enter) {
-  fields_.push_back({&widget, &edit, std::move(rule), enter});
-  widget.installEventFilter(this);
+void clsFieldGuard::watch(QLineEdit& field, Entry entry) {
+  const auto take = [take = std::move(entry.take)](const std::string&) { return take(); };
+  add({&field, &field, take, Enter::kChecks, std::move(entry.remember)});
+}
+
+void clsFieldGuard::add(Field field) {
+  field.widget->installEventFilter(this);
+  fields_.push_back(std::move(field));
 }
 
 bool clsFieldGuard::eventFilter(QObject* watched, QEvent* event) {
@@ -60,7 +65,8 @@ bool clsFieldGuard::eventFilter(QObject* watched, QEvent* event) {
       leaving_.start(0);
     }
   } else if (event->type() == QEvent::KeyPress && isEnter(*static_cast<QKeyEvent*>(event))) {
-    if (found->enter == Enter::kAccepts && check(*found)) accept_();
+    if (found->enter != Enter::kIgnored && check(*found) && found->enter == Enter::kAccepts)
+      accept_();
     return true;
   }
   return false;
@@ -68,6 +74,7 @@ bool clsFieldGuard::eventFilter(QObject* watched, QEvent* event) {
 
 void clsFieldGuard::select(Field& field, bool byMouse) {
   field.left = false;
+  if (field.remember) field.remember();
   field.edit->selectAll();
   // The click that follows would take the selection away again.
   if (byMouse) QTimer::singleShot(0, field.edit, &QLineEdit::selectAll);
@@ -75,9 +82,16 @@ void clsFieldGuard::select(Field& field, bool byMouse) {
 
 bool clsFieldGuard::check(Field& field) {
   if (field.rule(fromQt(field.edit->text()))) return true;
-  complain_();
+  if (!field.remember) complain_();
   field.edit->selectAll();
   return false;
+}
+
+void clsFieldGuard::bringBack(Field& field) {
+  field.widget->setFocus();
+  field.edit->selectAll();
+  // The field that gave its focus away was left by no act of the user.
+  forgetLeft();
 }
 
 // Not in the focus event itself: a box in the middle of a click would take the release away from
@@ -93,7 +107,11 @@ bool clsFieldGuard::checkLeft() {
   for (auto& field : fields_) {
     if (!field.left) continue;
     field.left = false;
-    if (field.edit->isVisible() && !check(field)) valid = false;
+    if (!field.edit->isVisible() || check(field)) continue;
+    valid = false;
+    if (!field.remember) continue;
+    bringBack(field);
+    break;
   }
   return valid;
 }
@@ -106,11 +124,8 @@ void clsFieldGuard::forgetLeft() {
 bool clsFieldGuard::checkAll() {
   forgetLeft();
   for (auto& field : fields_) {
-    if (check(field)) continue;
-    field.widget->setFocus();
-    field.edit->selectAll();
-    // The field that gave its focus away was left by no act of the user.
-    forgetLeft();
+    if (!field.widget->isEnabled() || check(field)) continue;
+    bringBack(field);
     return false;
   }
   return true;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Watches the text fields and editable lists of a form. A field is selected whole when it gets the
 // focus and checked when it loses it to another control of the form; Enter checks it and then
-// accepts the form. Another window, a menu or a list that drops down is no leaving.
+// accepts the form. Another window, a menu or a list that drops down is no leaving. A field with an
+// Entry of its own judges, rewrites and restores its text itself, gets the focus back when it is
+// left with a refused text, and accepts nothing by Enter.
 #pragma once
 
 #include <QObject>
@@ -27,11 +29,18 @@ class clsFieldGuard : public QObject {
   clsFieldGuard(std::function<void()> complain, std::function<void()> accept,
                 QObject* parent = nullptr);
 
-  enum class Enter { kAccepts, kIgnored };
+  enum class Enter { kAccepts, kChecks, kIgnored };
   void watch(QLineEdit& field, Rule rule, Enter enter = Enter::kAccepts);
   void watch(QComboBox& field, Rule rule);
 
-  /// Checks every field. The first that is not valid gets complaint, focus and selection.
+  struct Entry {
+    std::function<void()> remember;  ///< the field got the focus
+    std::function<bool()> take;      ///< false: the user was told, the remembered text is back
+  };
+  void watch(QLineEdit& field, Entry entry);
+
+  /// Checks every field within reach. The first that is not valid gets complaint, focus and
+  /// selection.
   bool checkAll();
   /// Checks what was left just now, before what follows covers the complaint.
   bool checkLeft();
@@ -47,11 +56,13 @@ class clsFieldGuard : public QObject {
     QLineEdit* edit;
     Rule rule;
     Enter enter;
+    std::function<void()> remember = {};  ///< only of a field with an Entry
     bool left = false;
   };
-  void add(QWidget& widget, QLineEdit& edit, Rule rule, Enter enter);
+  void add(Field field);
   void select(Field& field, bool byMouse);
   bool check(Field& field);
+  void bringBack(Field& field);
   void leavingTimer();
 
   std::function<void()> complain_;

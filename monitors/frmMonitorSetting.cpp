@@ -17,6 +17,7 @@
 #include "base/clsDesktop.h"
 #include "base/mdlText.h"
 #include "desktop/clsPictureBox.h"
+#include "desktop/clsQuietList.h"
 #include "desktop/qtText.h"
 #include "link/mdlBoxTable.h"
 #include "monitors/frmMoniBarSet.h"
@@ -188,7 +189,7 @@ void frmMonitorSetting::nameLabel(QFormLayout* form, const char* name) {
 QComboBox* frmMonitorSetting::addClosedList(QFormLayout* form, const QString& label,
                                             const QString& name,
                                             const std::vector<std::string>& texts) {
-  auto* list = named(new QComboBox(form->parentWidget()), name);
+  auto* list = named(new clsQuietList(form->parentWidget()), name);
   list->setMaxVisibleItems(kListedAtOnce);
   for (const auto& text : texts) list->addItem(toQt(text));
   form->addRow(label, list);
