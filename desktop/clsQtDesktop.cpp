@@ -117,6 +117,9 @@ BoxAnswer clsQtDesktop::messageBox(const std::string& title, const std::string& 
   box.setText(toQt(text));
   box.setIcon(iconOf(icon));
   box.setStandardButtons(buttonsOf(buttons));
+  // What is asked so cannot be undone: one Enter too many must not agree to it.
+  if (buttons == BoxButtons::kOkCancel && icon == BoxIcon::kQuestion)
+    box.setDefaultButton(QMessageBox::Cancel);
   if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
     // A short text would leave the title too little room.
     constexpr int kTitleButtons = 140;

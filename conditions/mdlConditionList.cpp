@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "conditions/mdlConditionList.h"
+
+#include <cstddef>
+#include <span>
+
+#include "base/mdlGeneral.h"
+#include "base/mdlMessages.h"
+#include "base/mdlText.h"
+#include "conditions/mdlCodeTables.h"
+#include "link/mdlBoxTable.h"
+#include "link/mdlUSBCommand.h"
+
+namespace vk {
+
+namespace {
+
+using List = std::vector<ConditionLine>;
+
+struct Spelling {
+  std::string_view code;
+  std::string_view shown;
+};
+
+constexpr Spelling kRangesLow[] = {{"05", " 5000 ue"}, {"10", "10000 ue"}, {"20", "20000 ue"}};
+constexpr Spelling kFiltersLow[] = {
+    {"03", " 30 Hz"}, {"10", " 100 Hz"}, {"30", " 300 Hz"}, {"PS", " PASS"}};
+
+std::string shownOf(std::span<const Spelling> table, std::string_view code) {
+  for (const Spelling& row : table) {
+    if (row.code == code) return std::string(row.shown);
+  }
+  return {};
+}
+
+/// The text beside a code; empty for a code that the table does not hold.
+std::string nameOf(std::span<const std::string_view> codes, std::span<const std::string_view> names,
+                   std::string_view code) {
+  return code.empty() ? std::string{} : std::string(textAt(names, findIndex(codes, code)));
+}
+
+/// The last reply without its line end: a line end in a value would push the columns apart.
+std::string replyLine() {
+  return gLastReply.substr(0, gLastReply.find_first_of("\r\n"));
+}
+
+/// The values of all four channels in one line.
+template <typename Value>
+std::string perChannel(Value value) {
+  std::string text;
+  for (std::size_t channel = 1; channel <= kChannels; ++channel) text += " " + value(channel) + ",";
+  return dropLastComma(text);
+}
+
+/// The settings string by its fixed positions, which count from 1.
+struct Conditions {
+  std::string text;
+  bool low = false;
+
+  std::string field(std::size_t at, std::size_t width, std::size_t channel = 1) const {
+    return mid(text, at + width * (channel - 1), width);
+  }
+  std::string carrier(std::size_t channel) const { return field(50, 1, channel); }
+  std::string level(std::size_t channel) const { return field(23, 4, channel); }
+
+  std::string rangeShown(std::size_t channel) const {
+    const std::string code = field(2, 2, channel);
+    if (low) return shownOf(kRangesLow, code);
+    const bool wide = carrier(channel) == carrierCode[kCarrier05];
+    return nameOf(rangeCode, wide ? rangeName05 : rangeName, code);
+  }
+  std::string filterShown(std::size_t channel) const {
+    const std::string code = field(10, 2, channel);
+    return low ? shownOf(kFiltersLow, code) : nameOf(filterCode, filterName, code);
+  }
+  std::string carriersShown() const {
+    if (low) return "2.0V, 2.0V, 2.0V, 2.0V";
+    return perChannel([&](std::size_t c) { return nameOf(carrierCode, carrierName, carrier(c)); });
+  }
+  std::string slopeShown(std::size_t channel) const {
+    if (level(channel).starts_with('N')) return "OFF";
+    return nameOf(trgSlopeCode, trgSlopeName, field(19, 1, channel));
+  }
+};
+
+/// A field that does not read has no value, and its channel keeps its place in the line.
+std::string levelShown(const std::string& field) {
+  const auto whole = readWhole(field);
+  const auto tenths = readWhole(right(field, 3));
+  switch (field.empty() ? '\0' : field.front()) {
+    case 'N':
+      return "---";
+    case '+':
+      return whole ? "+" + textOf(*whole) + " %" : "";
+    case '-':
+      return whole ? textOf(*whole) + " %" : "";
+    case 'P':
+      return tenths ? formatNumber(*tenths / 10.0, "+#0.0") + " %" : "";
+    case 'M':  // the letter's sign is lost, as it is in the record
+      return tenths ? formatNumber(*tenths / 10.0, "#0.0") + " %" : "";
+    default:
+      return "";
+  }
+}
+
+void addConditions(List& list, int32_t serial) {
+  if (usbLST(serial, 0) != kUsbOk) {
+    list.push_back({"Channel Mode", "USB ERROR (MEASURE SETTING)"});
+    return;
+  }
+  const Conditions box{replyLine(), isLowFamily(familyOf(serial))};
+  list.push_back({"Channel Mode", nameOf(chModeCode, chModeName, box.field(1, 1))});
+  list.push_back({"Range", perChannel([&](std::size_t c) { return box.rangeShown(c); })});
+  list.push_back({"Excitation", box.carriersShown()});
+  list.push_back({"Filter", perChannel([&](std::size_t c) { return box.filterShown(c); })});
+  list.push_back({"Trigger Mode", nameOf(trgModeCode, trgModeName, box.field(18, 1))});
+  list.push_back({"Trigger Slope", perChannel([&](std::size_t c) { return box.slopeShown(c); })});
+  list.push_back(
+      {"Trigger Level", perChannel([&](std::size_t c) { return levelShown(box.level(c)); })});
+  list.push_back({"Sampling", nameOf(samplingCode, samplingName, box.field(39, 4))});
+  list.push_back({"Data Size", nameOf(dataSizeCode, dataSizeName, box.field(46, 4))});
+  list.push_back({"PreArea", nameOf(preAreaCode, preAreaName, box.field(43, 3))});
+}
+
+void addUnits(List& list, int32_t serial) {
+  if (usbLST(serial, 1) != kUsbOk) {
+    list.push_back({"Unit", "USB ERROR (UNIT SETTING)"});
+    return;
+  }
+  const std::string reply = replyLine();
+  list.push_back({"Unit", perChannel([&](std::size_t channel) {
+                    const auto item = listField(reply, static_cast<int32_t>(channel));
+                    return nameOf(unitName, unitName, item);
+                  })});
+}
+
+void addCoefficients(List& list, int32_t serial) {
+  if (usbLST(serial, 2) != kUsbOk) {
+    list.push_back({"Coefficient", "USB ERROR (COEFF SETTING)"});
+    return;
+  }
+  const std::string reply = replyLine();
+  list.push_back({"Coefficient", perChannel([&](std::size_t channel) {
+                    return listField(reply, static_cast<int32_t>(channel));
+                  })});
+}
+
+/// The state of the status reply, whose line stands behind that of the card.
+std::string addStatus(List& list, int32_t serial) {
+  if (usbSTA(slotOf(serial)) != kUsbOk) {
+    list.push_back({"Date/Time", "USB ERROR (STATUS)"});
+    return {};
+  }
+  const std::string reply = replyLine();
+  list.push_back({"Date/Time", "20" + mid(reply, 4, 17)});
+  list.push_back({"Master/Slave", staSyncMode() == 0 ? "Master" : "Slave"});
+  list.push_back({"Balance", perChannel([&](std::size_t channel) -> std::string {
+                    return mid(reply, 24 + channel, 1) == "0" ? "ON" : "OFF";
+                  })});
+  list.push_back({"BOOT ROM Version", mid(reply, 38, 4)});
+  list.push_back({"MAIN ROM Version", mid(reply, 43, 4)});
+  return errorText(readWhole(left(reply, 2)).value_or(0));
+}
+
+std::string cardShown(int32_t result) {
+  if (result == kUsbNoCard) return "CF card not inserted.";
+  if (result != kUsbOk) return "USB ERROR (FILE)";
+  const std::string reply = replyLine();
+  return left(reply, 3) + "/" + mid(reply, 5, 3);
+}
+
+}  // namespace
+
+std::vector<ConditionLine> fillConditionList(int32_t serial) {
+  List list;
+  list.push_back({"Model", std::string(textAt(modelName, familyOf(serial)))});
+  list.push_back({"Serial No.", serialText(serial)});
+  addConditions(list, serial);
+  addUnits(list, serial);
+  addCoefficients(list, serial);
+  const std::string state = addStatus(list, serial);
+  list.push_back({"Mes_File/Res_File", cardShown(usbFLN(serial))});
+  if (!state.empty()) list.push_back({"VK-480Q Information", state});
+  return list;
+}
+
+std::string captionColumn(const std::vector<ConditionLine>& list) {
+  std::string text;
+  for (const auto& line : list) text += (text.empty() ? "" : "\n") + line.caption;
+  return text;
+}
+
+std::string valueColumn(const std::vector<ConditionLine>& list) {
+  std::string text;
+  for (const auto& line : list) text += (&line == list.data() ? "" : "\n") + line.value;
+  return text;
+}
+
+std::string listText(const std::vector<ConditionLine>& list) {
+  std::string text;
+  for (const auto& line : list) text += line.caption + "\t" + line.value + "\n";
+  return text;
+}
+
+}  // namespace vk

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "maintenance/mdlBalance.h"
+
+#include "base/clsDesktop.h"
+#include "base/mdlGeneral.h"
+#include "base/mdlText.h"
+#include "conditions/mdlCodeTables.h"
+#include "link/mdlBoxTable.h"
+#include "link/mdlUSBCommand.h"
+#include "shell/mdlSelectMeter.h"
+
+namespace vk {
+
+namespace {
+
+constexpr int32_t kBalanceOff = 20;  // what a channel set to balance off answers
+constexpr double kAfterInit = 1.0;   // seconds
+
+void addChannels(std::vector<BalanceStep>& steps, const MeasureSetting& box, int32_t channel) {
+  if (channel > 0) {
+    steps.push_back({box.serial, channel});
+    return;
+  }
+  for (int32_t i = 1; i <= channelCount(box.channelMode); ++i) steps.push_back({box.serial, i});
+}
+
+/// True when the job is to go on.
+bool balance(const BalanceStep& step) {
+  const int32_t result = usbBAL(step.serial, step.channel);
+  if (result == kUsbOk || result == kBalanceOff) return true;
+  return desktop().messageBox("Balance Error", "Balance Error has occurred.continue?",
+                              BoxButtons::kYesNo, BoxIcon::kExclamation) != BoxAnswer::kNo;
+}
+
+}  // namespace
+
+std::vector<BalanceStep> balanceSteps(int32_t serial, int32_t channel) {
+  std::vector<BalanceStep> steps;
+  for (std::size_t row = 1; row <= kBoxes; ++row) {
+    const auto& box = gBoxTable[row];
+    if (box.serial == kNoSerial) continue;
+    if (serial == kSelectAllMeters || box.serial == serial) addChannels(steps, box, channel);
+  }
+  return steps;
+}
+
+void runBalance(const std::vector<BalanceStep>& steps, const JobView& view) {
+  double done = 0;
+  for (const auto& step : steps) {
+    view.lines("Serial Number " + serialText(step.serial) + "  Channel" + textOf(step.channel),
+               "  Balancing");
+    desktop().doEvents();
+    if (desktop().ending() || !balance(step)) return;
+    view.progress(++done / static_cast<double>(steps.size()));
+  }
+}
+
+bool askCardInit(int32_t serial) {
+  const std::string text =
+      "Serial Number " + serialText(serial) + " CF card is" + " initialized." + "\r\n" + "OK?";
+  return desktop().messageBox("Initializing CF card", text, BoxButtons::kOkCancel,
+                              BoxIcon::kQuestion) == BoxAnswer::kOk;
+}
+
+int32_t runCardInit(int32_t serial, const JobView& view) {
+  view.lines("CF card being initialized", "");
+  desktop().doEvents();
+  const int32_t result = usbFMT(serial);
+  waitSeconds(kAfterInit);
+  return result;
+}
+
+}  // namespace vk

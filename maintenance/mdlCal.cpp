@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "maintenance/mdlCal.h"
+
+#include <string>
+
+#include "base/clsDesktop.h"
+#include "link/mdlBoxTable.h"
+#include "link/mdlUSBCommand.h"
+
+namespace vk {
+
+namespace {
+
+constexpr int kCalOff = 0;
+
+}  // namespace
+
+bool pressCal(Calibration& calibration, int button) {
+  if (!hasAnalogOutput(familyOf(calibration.serial))) {
+    desktop().messageBox(std::string(kCalCaption), "Possible calibration output for VK-480Qe only.",
+                         BoxButtons::kOk, BoxIcon::kExclamation);
+    return false;
+  }
+  // Also after "CAL OFF": a second one at the end does no harm.
+  if (usbCAL(calibration.serial, button) == kUsbOk) calibration.on = true;
+  // After a failure too: its box has told it, and the lit button is the one pressed last.
+  calibration.pressed = button;
+  return true;
+}
+
+void closeCal(Calibration& calibration) {
+  if (!calibration.on) return;
+  calibration.on = false;
+  if (usbMET(calibration.serial) == kUsbOk) usbCAL(calibration.serial, kCalOff);
+}
+
+int calPicture(const Calibration& calibration, int button) {
+  return button == calibration.pressed ? button + kCalOutputs : button;
+}
+
+}  // namespace vk
