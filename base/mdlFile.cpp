@@ -239,6 +239,18 @@ int32_t clsFileWriter::write(const void* bytes, std::size_t count) {
 int32_t clsFileWriter::commit() {
   if (descriptor_ < 0) return error_ == kFileOk ? kFileOther : error_;
   if (error_ == kFileOk) error_ = syncDescriptor(descriptor_);
+  if (const auto error = giveName()) return error;
+  syncFolder(folderOf(target_));
+  return kFileOk;
+}
+
+int32_t clsFileWriter::commitUnflushed() {
+  if (descriptor_ < 0) return error_ == kFileOk ? kFileOther : error_;
+  (void)::sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
+  return giveName();
+}
+
+int32_t clsFileWriter::giveName() {
   const int descriptor = descriptor_;
   descriptor_ = -1;
   if (::close(descriptor) != 0 && errno != EINTR && error_ == kFileOk) error_ = lastError();
@@ -249,7 +261,6 @@ int32_t clsFileWriter::commit() {
     ::unlink(temporary_.c_str());
     return error_;
   }
-  syncFolder(folderOf(target_));
   error_ = kFileOther;  // nothing is open any more
   return kFileOk;
 }
@@ -263,6 +274,13 @@ void clsFileWriter::discard() {
   written_ = 0;
   flushed_ = 0;
   error_ = kFileOk;
+}
+
+int32_t flushFolder(const fs::path& folder) {
+  const Descriptor descriptor(openRetrying(folder.c_str(), O_RDONLY | O_DIRECTORY));
+  if (descriptor.get() >= 0) return ::syncfs(descriptor.get()) == 0 ? kFileOk : lastError();
+  ::sync();  // a folder that may be written to, but not be read
+  return kFileOk;
 }
 
 int32_t writeWholeFile(const fs::path& path, std::string_view text) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Files. Text files have CR LF line ends. A file is written to a temporary name beside its target,
-// flushed to disk and renamed, so that a crash or a full disk leaves the old file whole.
+// flushed to disk and renamed, so that a crash or a full disk leaves the old file whole. Only a
+// writer of many new files puts the flush off to the last of them.
 #pragma once
 
 #include <cstddef>
@@ -39,11 +40,17 @@ class clsFileWriter {
   [[nodiscard]] int32_t write(std::string_view text) { return write(text.data(), text.size()); }
   /// Flushes to disk and gives the file its name. Also used to keep a partial file on purpose.
   [[nodiscard]] int32_t commit();
+  /// The same without waiting for the disk: the file stands whole under its name for whoever
+  /// looks, and the disk has begun to write it. Until flushFolder() a crash of the system may lose
+  /// it, or on some file systems leave it cut. So not for a file that replaces another.
+  [[nodiscard]] int32_t commitUnflushed();
   /// Drops what was written.
   void discard();
   bool isOpen() const { return descriptor_ >= 0; }
 
  private:
+  int32_t giveName();
+
   int descriptor_ = -1;
   int32_t error_ = kFileOk;
   uint64_t written_ = 0;
@@ -51,6 +58,9 @@ class clsFileWriter {
   std::filesystem::path target_;
   std::filesystem::path temporary_;
 };
+
+/// Flushes all that was written to the folder's file system, contents and names.
+[[nodiscard]] int32_t flushFolder(const std::filesystem::path& folder);
 
 /// Replaces the whole file by `text`, as it stands.
 [[nodiscard]] int32_t writeWholeFile(const std::filesystem::path& path, std::string_view text);

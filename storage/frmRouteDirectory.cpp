@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "storage/frmRouteDirectory.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QStackedLayout>
 #include <QTabBar>
 #include <QTimer>
@@ -50,11 +45,7 @@ frmRouteDirectory::frmRouteDirectory(int32_t serial, QWidget* parent) : QDialog(
 frmRouteDirectory::~frmRouteDirectory() = default;
 
 void frmRouteDirectory::connectView() {
-  reading_.view.setPercent = [this](int percent) { pbrFile_->setValue(percent); };
-  reading_.view.setPercentText = [this](const std::string& text) {
-    lblPrgCnt_->setText(toQt(text));
-  };
-  reading_.view.setMessage = [this](const std::string& text) { lblPrg_->setText(toQt(text)); };
+  progress_.connectTo(reading_.view);
   reading_.view.appendTempFile = [](const std::string& line) { gTempFileList += line; };
 }
 
@@ -100,7 +91,7 @@ bool frmRouteDirectory::openCard() {
     txtHead_->setPlaceholderText(tr("The card holds no data file."));
     return false;
   }
-  for (const int32_t count : divisionCounts()) cmbDivision_->addItem(toQt(textOf(count)));
+  csv_.fillDivisions();
   const QString folder = toQt(settleDefaultFolder());
   for (auto* box : txtFolder_) box->setText(folder);
   setControlsEnabled(lockedControls(kTabCsv), false);
@@ -114,14 +105,7 @@ bool frmRouteDirectory::openCard() {
 }
 
 void frmRouteDirectory::addRow(std::size_t row) {
-  auto* item = new QTreeWidgetItem;
-  const CardEntry& entry = reading_.files[row];
-  item->setText(0, toQt(entry.rowText));
-  item->setText(1, toQt(entry.sizeText));
-  item->setText(2, toQt(entry.date));
-  item->setText(3, toQt(entry.headerSizeText));
-  item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-  lvwFileName_->addTopLevelItem(item);
+  addFileRow(*lvwFileName_, reading_.files[row]);
 }
 
 void frmRouteDirectory::showRows() {
@@ -130,14 +114,6 @@ void frmRouteDirectory::showRows() {
     auto* item = lvwFileName_->topLevelItem(row);
     item->setText(0, toQt(entry.rowText));
     item->setText(4, toQt(entry.seriesText));
-  }
-}
-
-void frmRouteDirectory::showCheckBoxes(bool on) {
-  for (int row = 0; row < lvwFileName_->topLevelItemCount(); ++row) {
-    const bool checked = reading_.files[static_cast<std::size_t>(row)].checked;
-    const QVariant state = checked ? Qt::Checked : Qt::Unchecked;
-    lvwFileName_->topLevelItem(row)->setData(0, Qt::CheckStateRole, on ? state : QVariant());
   }
 }
 
@@ -153,7 +129,7 @@ void frmRouteDirectory::selectTab(int tab) {
   QPushButton* const main[] = {cmdRun_, cmdBinSave_, cmdCSVSave_};
   main[tab - 1]->setDefault(true);
   showRows();
-  showCheckBoxes(view.checkBoxes);
+  showChecks(*lvwFileName_, reading_.files, view.checkBoxes);
 }
 
 void frmRouteDirectory::clickRow(QTreeWidgetItem* item) {
@@ -176,7 +152,8 @@ void frmRouteDirectory::openMenu(const QPoint& position) {
 void frmRouteDirectory::checkAll(bool on) {
   if (busy_) return;
   checkAllRows(reading_, on);
-  showCheckBoxes(cardTabView(reading_.tab, reading_.files.size()).checkBoxes);
+  showChecks(*lvwFileName_, reading_.files,
+             cardTabView(reading_.tab, reading_.files.size()).checkBoxes);
 }
 
 void frmRouteDirectory::run() {
@@ -231,14 +208,9 @@ void frmRouteDirectory::reject() {
 void frmRouteDirectory::carryIn() {
   for (std::size_t i = 0; i < reading_.folder.size(); ++i)
     reading_.folder[i] = fromQt(txtFolder_[i]->text());
-  reading_.division = chkDivision_->isChecked();
-  for (int row = 0; row < lvwFileName_->topLevelItemCount(); ++row) {
-    // Without check boxes, on the wave tab, the marks of the saving tabs are kept.
-    const QVariant state = lvwFileName_->topLevelItem(row)->data(0, Qt::CheckStateRole);
-    if (state.isValid()) {
-      reading_.files[static_cast<std::size_t>(row)].checked = state.toInt() == Qt::Checked;
-    }
-  }
+  reading_.csv = csv_.options();
+  // Without check boxes, on the wave tab, the marks of the saving tabs are kept.
+  takeChecks(*lvwFileName_, reading_.files);
 }
 
 void frmRouteDirectory::setControlsEnabled(const ControlNames& names, bool on) {

@@ -9,17 +9,13 @@
 #include <memory>
 #include <string_view>
 
+#include "storage/frmCsvControls.h"
 #include "storage/mdlCardReading.h"
 
-class QCheckBox;
-class QComboBox;
-class QLabel;
 class QLineEdit;
 class QMenu;
 class QPlainTextEdit;
-class QProgressBar;
 class QPushButton;
-class QRadioButton;
 class QStackedLayout;
 class QTabBar;
 class QTreeWidget;
@@ -51,9 +47,7 @@ class frmRouteDirectory : public QDialog {
   QWidget* buildWavePanel();
   QWidget* buildBinaryPanel();
   QWidget* buildCsvPanel();
-  QWidget* buildFolderRow(int index, QWidget* panel);
-  QWidget* buildCoefficientBox(QWidget* panel);
-  QWidget* buildProgress();
+  QWidget* buildFolder(int index, QWidget* panel);
   void buildLayout();
   void connectControls();
   void connectView();
@@ -61,7 +55,6 @@ class frmRouteDirectory : public QDialog {
 
   void addRow(std::size_t row);
   void showRows();
-  void showCheckBoxes(bool on);
   void selectTab(int tab);
   void clickRow(QTreeWidgetItem* item);
   void openMenu(const QPoint& position);
@@ -94,12 +87,8 @@ class frmRouteDirectory : public QDialog {
   QPushButton* cmdCancel_;
   QLineEdit* txtFolder_[2];
   QPushButton* cmdFolder_[2];
-  QRadioButton* optCoeff_[2];
-  QCheckBox* chkDivision_;
-  QComboBox* cmbDivision_;
-  QProgressBar* pbrFile_;
-  QLabel* lblPrg_;
-  QLabel* lblPrgCnt_;
+  CsvControls csv_;
+  ProgressControls progress_;
 };
 
 }  // namespace vk

@@ -1,28 +1,17 @@
 // SPDX-License-Identifier: MIT
 // The controls of the card window and their places; what they do stands in frmRouteDirectory.cpp.
-#include <QAction>
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFontDatabase>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedLayout>
-#include <QStyle>
 #include <QTabBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "base/mdlTwips.h"
-#include "desktop/clsElidedLabel.h"
 #include "desktop/qtText.h"
 #include "storage/frmFormParts.h"
 #include "storage/frmRouteDirectory.h"
@@ -41,34 +30,8 @@ QVBoxLayout* panelLayout(QWidget* panel) {
 }  // namespace
 
 void frmRouteDirectory::buildList() {
-  lvwFileName_ =
-      named(new QTreeWidget(this), QStringLiteral("lvwFileName"), tr("Files on the card"));
-  lvwFileName_->setRootIsDecorated(false);
-  lvwFileName_->setUniformRowHeights(true);
-  lvwFileName_->setAllColumnsShowFocus(true);
-  lvwFileName_->setContextMenuPolicy(Qt::CustomContextMenu);
-  lvwFileName_->setColumnCount(static_cast<int>(kCardColumns.size()));
-  for (std::size_t i = 0; i < kCardColumns.size(); ++i) {
-    const int column = static_cast<int>(i);
-    const int width = toPixels(kCardColumns[i].twips);
-    lvwFileName_->headerItem()->setText(column, toQt(kCardColumns[i].title));
-    lvwFileName_->setColumnWidth(column, width);
-    // A width of a twip is no width: the column only stores.
-    lvwFileName_->setColumnHidden(column, width < 1);
-  }
-  lvwFileName_->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-  // The last column takes the rest of the width, which must hold a date and time.
-  const int date = fontMetrics().horizontalAdvance(QStringLiteral("0000/00/00 00:00:00")) + 16;
-  const int edge =
-      style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * lvwFileName_->frameWidth();
-  lvwFileName_->setMinimumWidth(lvwFileName_->columnWidth(0) + lvwFileName_->columnWidth(1) + date +
-                                edge);
-
-  mnuAllSelect_ = named(new QMenu(this), QStringLiteral("mnuAllSelect"));
-  auto* select = named(mnuAllSelect_->addAction(tr("All select")), QStringLiteral("mnuASelect"));
-  auto* cancel = named(mnuAllSelect_->addAction(tr("All cancel")), QStringLiteral("mnuACancel"));
-  connect(select, &QAction::triggered, this, [this] { checkAll(true); });
-  connect(cancel, &QAction::triggered, this, [this] { checkAll(false); });
+  lvwFileName_ = buildFileList(this, tr("Files on the card"));
+  mnuAllSelect_ = buildSelectMenu(this, [this](bool on) { checkAll(on); });
 }
 
 void frmRouteDirectory::buildTabs() {
@@ -95,19 +58,11 @@ QWidget* frmRouteDirectory::buildWavePanel() {
   return panel;
 }
 
-QWidget* frmRouteDirectory::buildFolderRow(int index, QWidget* panel) {
-  auto* row = new QWidget(panel);
-  auto& box = txtFolder_[index];
-  auto& button = cmdFolder_[index];
-  box = named(new QLineEdit(row), elementName("txtFolder", index), tr("Folder to save in"));
-  button = named(new QPushButton(tr("&Folder..."), row), elementName("cmdFolder", index),
-                 tr("Choose the folder to save in"));
-  auto* grid = new QGridLayout(row);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->addWidget(captionOf(tr("Folder &to save in"), box, row), 0, 0, 1, 2);
-  grid->addWidget(box, 1, 0);
-  grid->addWidget(button, 1, 1);
-  return row;
+QWidget* frmRouteDirectory::buildFolder(int index, QWidget* panel) {
+  const FolderRow row = buildFolderRow(panel, index, tr("Folder &to save in"), tr("&Folder..."));
+  txtFolder_[index] = row.txtFolder;
+  cmdFolder_[index] = row.cmdFolder;
+  return row.row;
 }
 
 QWidget* frmRouteDirectory::buildBinaryPanel() {
@@ -115,36 +70,14 @@ QWidget* frmRouteDirectory::buildBinaryPanel() {
   cmdBinSave_ = named(new QPushButton(tr("&Save"), panel), QStringLiteral("cmdBinSave"),
                       tr("Save the checked files as binary"));
   auto* lines = panelLayout(panel);
-  lines->addWidget(buildFolderRow(0, panel));
+  lines->addWidget(buildFolder(0, panel));
   lines->addStretch();
   lines->addWidget(cmdBinSave_, 0, Qt::AlignRight);
   return panel;
 }
 
-QWidget* frmRouteDirectory::buildCoefficientBox(QWidget* panel) {
-  auto* box = new QGroupBox(tr("Reflection of the coefficient"), panel);
-  auto* lines = new QVBoxLayout(box);
-  auto* group = new QButtonGroup(box);
-  const QString texts[] = {tr("Coefficient is reflected on the data.(Physics)"),
-                           tr("Coefficient is not reflected on the data.(Strain)")};
-  for (int i = 0; i < 2; ++i) {
-    optCoeff_[i] = named(new QRadioButton(texts[i], box), elementName("optCoeff", i));
-    group->addButton(optCoeff_[i], i);
-    lines->addWidget(optCoeff_[i]);
-  }
-  optCoeff_[0]->setChecked(true);
-  auto* note = new QLabel(tr("* Saved automatically by strain in case of coefficient 1."), box);
-  note->setWordWrap(true);
-  lines->addWidget(note);
-  return box;
-}
-
 QWidget* frmRouteDirectory::buildCsvPanel() {
   auto* panel = named(new QWidget(this), QStringLiteral("picCSVSave"));
-  chkDivision_ = named(new QCheckBox(tr("File is divided in the designated interval."), panel),
-                       QStringLiteral("chkDivision"));
-  cmbDivision_ =
-      named(new QComboBox(panel), QStringLiteral("cmbDivision"), tr("Samples of one file"));
   cmdCSVSave_ = named(new QPushButton(tr("&Save"), panel), QStringLiteral("cmdCSVSave"),
                       tr("Save the checked files as CSV"));
   if (!gConvertToCsv) {
@@ -154,40 +87,12 @@ QWidget* frmRouteDirectory::buildCsvPanel() {
     cmdCSVSave_->setToolTip(later);
     cmdCSVSave_->setStatusTip(later);
   }
-  auto* division = new QHBoxLayout;
-  division->addSpacing(22);
-  division->addWidget(captionOf(tr("&Division"), cmbDivision_, panel));
-  division->addWidget(cmbDivision_);
-  division->addStretch();
   auto* lines = panelLayout(panel);
-  lines->addWidget(buildFolderRow(1, panel));
-  lines->addWidget(buildCoefficientBox(panel));
-  lines->addWidget(chkDivision_);
-  lines->addLayout(division);
+  lines->addWidget(buildFolder(1, panel));
+  csv_.build(panel, *lines);
   lines->addStretch();
   lines->addWidget(cmdCSVSave_, 0, Qt::AlignRight);
   return panel;
-}
-
-QWidget* frmRouteDirectory::buildProgress() {
-  auto* box = new QWidget(this);
-  lblPrg_ = named(new clsElidedLabel(box), QStringLiteral("lblPrg"), tr("State of the work"));
-  lblPrg_->setTextFormat(Qt::PlainText);
-  lblPrgCnt_ = named(new QLabel(box), QStringLiteral("lblPrgCnt"), tr("Percent done"));
-  lblPrgCnt_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  lblPrgCnt_->setMinimumWidth(fontMetrics().horizontalAdvance(QStringLiteral("100%")) + 4);
-  pbrFile_ = named(new QProgressBar(box), QStringLiteral("pbrFile"), tr("Progress"));
-  pbrFile_->setRange(0, 100);
-  pbrFile_->setValue(0);
-  pbrFile_->setTextVisible(false);
-  auto* grid = new QGridLayout(box);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setVerticalSpacing(4);
-  grid->addWidget(lblPrg_, 0, 0, 1, 2);
-  grid->addWidget(pbrFile_, 1, 0);
-  grid->addWidget(lblPrgCnt_, 1, 1);
-  grid->setColumnStretch(0, 1);
-  return box;
 }
 
 void frmRouteDirectory::buildLayout() {
@@ -211,7 +116,7 @@ void frmRouteDirectory::buildLayout() {
   middle->addLayout(panels_, 10);
   auto* bottom = new QHBoxLayout;
   bottom->setSpacing(16);
-  bottom->addWidget(buildProgress(), 1);
+  bottom->addWidget(progress_.build(this), 1);
   bottom->addWidget(cmdCancel_, 0, Qt::AlignBottom);
   auto* lines = new QVBoxLayout(this);
   lines->setContentsMargins(14, 12, 14, 14);
@@ -220,8 +125,8 @@ void frmRouteDirectory::buildLayout() {
   lines->addLayout(middle, 1);
   lines->addLayout(bottom);
   tabThrough({tbsSelect_, lvwFileName_, cmdFileSerNameChange_, txtHead_, cmdRun_, txtFolder_[0],
-              cmdFolder_[0], cmdBinSave_, txtFolder_[1], cmdFolder_[1], optCoeff_[0], optCoeff_[1],
-              chkDivision_, cmbDivision_, cmdCSVSave_, cmdCancel_});
+              cmdFolder_[0], cmdBinSave_, txtFolder_[1], cmdFolder_[1], csv_.optCoeff[0],
+              csv_.optCoeff[1], csv_.chkDivision, csv_.cmbDivision, cmdCSVSave_, cmdCancel_});
 }
 
 }  // namespace vk

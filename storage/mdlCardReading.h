@@ -15,6 +15,7 @@
 #include <string_view>
 #include <vector>
 
+#include "storage/mdlCsvText.h"
 #include "storage/mdlHedDataWork.h"
 
 namespace vk {
@@ -73,7 +74,7 @@ struct CardReading {
   std::string temporaryStem;          ///< path without extension of the last temporary pair
   std::string lastClicked;            ///< name of the row clicked last on the wave tab
   std::array<std::string, 2> folder;  ///< txtFolder(0) binary, txtFolder(1) CSV
-  bool division = false;              ///< chkDivision
+  CsvOptions csv;                     ///< chkDivision, cmbDivision, optCoeff
   std::string temporaryFolder;        ///< the program's tmp folder
   CardReadingView view;
   bool showingHeader = false;

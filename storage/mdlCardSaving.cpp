@@ -35,7 +35,7 @@ Next saveRow(CardReading& reading, SaveKind kind, std::size_t row) {
     return Next::kGoOn;
   }
   const std::string target = askedTarget(reading, kind, file);
-  const bool divided = kind == kSaveCsv && reading.division;
+  const bool divided = kind == kSaveCsv && reading.csv.division;
   if (!divided && findFileAnyCase(target) && askOverwrite(target) != 1) {
     showMessage(reading, "canceled.");
     return Next::kGoOn;

@@ -1,24 +1,21 @@
 // SPDX-License-Identifier: MIT
 // The transfer of one recording. The data file is streamed: one block is in memory at a time.
 #include <array>
-#include <filesystem>
 #include <memory>
 
 #include "base/clsDesktop.h"
 #include "base/clsFlagGuard.h"
 #include "base/mdlFile.h"
 #include "base/mdlGeneral.h"
-#include "base/mdlMessages.h"
 #include "base/mdlText.h"
 #include "link/mdlUSBCommand.h"
 #include "storage/mdlCardReading.h"
+#include "storage/mdlFileBox.h"
 #include "storage/mdlWaveOpenRequest.h"
 
 namespace vk {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr int64_t kTransferUnit = 64;
 constexpr std::size_t kPageBytes = 4096;
@@ -28,33 +25,6 @@ constexpr int kYieldsAfterFailure = 4;
 struct alignas(kPageBytes) Block {
   std::array<unsigned char, kBlockBytes> bytes;
 };
-
-void showBox(const char* title, const std::string& text) {
-  if (desktop().ending()) return;
-  desktop().messageBox(title, text, BoxButtons::kOk, BoxIcon::kExclamation);
-}
-
-/// A name from a broken card directory could lead out of the chosen folder.
-bool nameStaysInFolder(const std::string& stem) {
-  return stem.find_first_of(std::string_view("/\\\0", 3)) == std::string::npos;
-}
-
-/// Where names do not distinguish case, the file just written has replaced its other spellings.
-/// Elsewhere they are taken away, or a reader that looks for ".DAT" would find the old recording.
-void removeOtherSpellings(const fs::path& written) {
-  std::error_code error;
-  const std::string extension = written.extension().string();
-  fs::directory_iterator entry(written.parent_path(), error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    const fs::path& other = entry->path();
-    const std::string otherExtension = other.extension().string();
-    std::error_code ignored;
-    if (other.stem() == written.stem() && otherExtension != extension &&
-        equalNoCase(otherExtension, extension) && !fs::equivalent(other, written, ignored)) {
-      fs::remove(other, ignored);
-    }
-  }
-}
 
 std::string clockStem(const DateTime& time) {
   const auto two = [](int number) { return formatNumber(number, "00"); };
@@ -107,12 +77,6 @@ class clsTransfer {
   void listTemporary(const std::string& path) const {
     if (kind_ == kReadToSave || !reading_.view.appendTempFile) return;
     reading_.view.appendTempFile(path + "\r\n");
-  }
-  /// True for success; a failure is shown with the file's name.
-  static bool fileDone(int32_t error, const std::string& path) {
-    if (error == kFileOk) return true;
-    showBox("File Error", path + "\r\n" + fileErrorText(error));
-    return false;
   }
   std::string dataPath() const { return target_ + ".dat"; }
   std::string headerPath() const { return target_ + ".hed"; }

@@ -230,6 +230,16 @@ TEST_F(File, NothingStandsUnderTheNameWithoutACommit) {
   EXPECT_EQ(contents("A.dat"), "part");
 }
 
+TEST_F(File, AFlushMayComeLater) {
+  vk::clsFileWriter writer;
+  EXPECT_EQ(writer.commitUnflushed(), vk::kFileOther);
+  ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
+  EXPECT_EQ(writer.write("whole"), vk::kFileOk);
+  EXPECT_EQ(writer.commitUnflushed(), vk::kFileOk);
+  EXPECT_EQ(contents("A.dat") + listing(folder_), "wholeA.dat");
+  EXPECT_EQ(vk::flushFolder(folder_), vk::kFileOk);
+}
+
 TEST_F(File, TwoWritersOfOneTargetDoNotMix) {
   vk::clsFileWriter first, second;
   ASSERT_EQ(first.open(folder_ / "A.dat") + second.open(folder_ / "A.dat"), 0);

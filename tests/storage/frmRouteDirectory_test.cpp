@@ -13,12 +13,14 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QRadioButton>
 #include <QTabBar>
 
 #include "link/mdlBoxTable.h"
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
 #include "shell/mdlConfig.h"
+#include "storage/mdlCsvConversion.h"
 #include "storage/mdlTempFiles.h"
 #include "storage/mdlWaveOpenRequest.h"
 #include "tests/storage/card_window.h"
@@ -255,18 +257,32 @@ TEST_F(frmRouteDirectoryTest, LocksItsControlsDuringATransfer) {
 TEST_F(frmRouteDirectoryTest, HandsItsChoicesToTheConversion) {
   std::string seen;
   vk::gConvertToCsv = [&](vk::CardReading& reading, std::size_t row) {
-    seen += reading.files[row].rowText + (reading.division ? " divided " : " whole ") +
-            reading.folder[1] + "\n";
+    seen += reading.files[row].rowText + (reading.csv.division ? " divided " : " whole ") +
+            std::to_string(reading.csv.divisionCount) +
+            (reading.csv.scaled ? " scaled " : " raw ") + reading.folder[1] + "\n";
     return vk::kCardOk;
   };
   open(vk::kTabCsv, {1});
   type(form, "txtFolder(1)", "/there");
-  for (const bool division : {false, true}) {
-    control<QCheckBox>(form, "chkDivision")->setChecked(division);
-    press(form, "cmdCSVSave");
-  }
-  EXPECT_EQ("DAT00002.DAT whole /there\nDAT00002.DAT divided /there\n111111111111011 picCSVSave",
-            seen + state());
+  press(form, "cmdCSVSave");
+  control<QCheckBox>(form, "chkDivision")->setChecked(true);
+  control<QComboBox>(form, "cmbDivision")->setCurrentText("65000");
+  control<QRadioButton>(form, "optCoeff(1)")->click();
+  press(form, "cmdCSVSave");
+  EXPECT_EQ(
+      "DAT00002.DAT whole 5000 scaled /there\nDAT00002.DAT divided 65000 raw /there\n"
+      "111111111111011 picCSVSave",
+      seen + state());
+}
+
+TEST_F(frmRouteDirectoryTest, SavesAsCsv) {
+  vk::gConvertToCsv = vk::convertToCsv;
+  open(vk::kTabCsv, {2});
+  press(form, "cmdCSVSave");
+  const std::string csv = saved("DAT00003.csv");
+  EXPECT_EQ("CSV Data,0.000sec - 0.099sec\r\nDATASET,", csv.substr(0, 38));
+  EXPECT_EQ(18 + 99, std::count(csv.begin(), csv.end(), '\n'));
+  EXPECT_EQ("Ended.", desk.takeLog() + label("lblPrg"));
 }
 
 TEST_F(frmRouteDirectoryTest, FetchesAFileForTheWaveView) {

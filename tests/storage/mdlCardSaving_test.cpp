@@ -112,7 +112,7 @@ TEST_F(CardSavingTest, CsvGoesThroughItsConversion) {
   EXPECT_EQ(save(vk::kSaveCsv), ask("csv/A.csv") + "label canceled.\n" + kCanceled +
                                     "label Communication Error has occurred.\n" + kEnd);
   // With division on the numbered names are asked about by the conversion itself.
-  reading.division = true;
+  reading.csv.division = true;
   EXPECT_EQ(save(vk::kSaveCsv), all);
   EXPECT_EQ(rows, "0 1 1 0 1 ");
 }

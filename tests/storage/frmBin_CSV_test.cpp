@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "storage/frmBin_CSV.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QProgressBar>
+#include <QRadioButton>
+
+#include "storage/mdlFolderList.h"
+#include "tests/storage/card_window.h"
+
+namespace vktest {
+namespace {
+
+namespace fs = std::filesystem;
+
+class frmBin_CSVTest : public ::testing::Test {
+ protected:
+  frmBin_CSVTest() {
+    fs::create_directory(top + "/more");
+    for (const char* name : {"A", "B", "more/C"}) put(name, 6000);
+    vk::gDefaultFolder = top;
+    form = std::make_unique<vk::frmBin_CSV>();
+    form->show();
+  }
+  ~frmBin_CSVTest() override {
+    vk::gDefaultFolder.clear();
+    vk::gFolderRole = vk::kFolderSave;
+  }
+  /// A recording of one series whose samples are all 2.
+  void put(const std::string& name, int samples) {
+    std::ofstream(top + "/" + name + ".hed")
+        << "VERSION 1\r\nSERIES CH1\r\nDATE 01-05-2026\r\nTIME 09:30:00\r\nRATE 1000\r\n"
+           "VERT_UNITS V\r\nNUM_SERIES 1\r\nSLOPE 0.25\r\nX_OFFSET 0\r\nY_OFFSET 0\r\n"
+           "NUM_SAMPS "
+        << samples << "\r\n";
+    std::ofstream data(top + "/" + name + ".DAT");
+    for (int i = 0; i < samples; ++i) data.write("\2\0", 2);
+  }
+  QTreeWidget& list() { return *control<QTreeWidget>(*form, "lvwFileName"); }
+  void check(int row) { list().topLevelItem(row)->setCheckState(0, Qt::Checked); }
+  void choose(int index, const char* folder) {
+    inModal("frmSelectFolder", [=](QDialog& dialog) {
+      EXPECT_EQ(index == 0 ? "Read Folder selection" : "Save Folder selection",
+                vk::fromQt(dialog.windowTitle()));
+      if (folder) vk::chooseFolder(folder);
+      dialog.reject();
+    });
+    press(*form, index == 0 ? "cmdFolder(0)" : "cmdFolder(1)");
+  }
+  std::string folders() {
+    return textIn(*form, "txtFolder(0)") + "|" + textIn(*form, "txtFolder(1)");
+  }
+  /// 1 for each control that takes input.
+  std::string state() {
+    std::string text;
+    for (const char* name :
+         {"cmdCancel", "txtFolder(0)", "txtFolder(1)", "cmdFolder(0)", "cmdFolder(1)",
+          "chkDivision", "cmbDivision", "optCoeff(0)", "optCoeff(1)", "cmdCSVSave", "lvwFileName"})
+      text += control<QWidget>(*form, name)->isEnabledTo(form.get()) ? '1' : '0';
+    return text;
+  }
+  std::string firstLine(const std::string& name) {
+    const std::string text = fileText(top + "/" + name);
+    const auto at = text.find("\n1,");
+    return at == std::string::npos ? "none" : text.substr(at + 1, text.find("\r\n2,") - at - 1);
+  }
+  /// Runs the action when the first mark of a conversion shows.
+  void whileConverting(std::function<void()> action) {
+    auto* once = new QObject(form.get());
+    QObject::connect(control<QProgressBar>(*form, "pbrFile"), &QProgressBar::valueChanged, once,
+                     [=](int percent) {
+                       if (percent == 0) return;
+                       once->deleteLater();
+                       action();
+                     });
+  }
+
+  WindowDesktop desk;
+  QTemporaryDir place;
+  const std::string top = place.path().toStdString();
+  std::unique_ptr<vk::frmBin_CSV> form;
+};
+
+TEST_F(frmBin_CSVTest, OpensOnTheDefaultFolder) {
+  EXPECT_EQ(top + "|" + top, folders());
+  const std::string rows = listText(list(), 2);
+  EXPECT_EQ("[ ]A.DAT|12000\n[ ]B.DAT|12000\n", rows);
+  EXPECT_EQ(13, control<QComboBox>(*form, "cmbDivision")->count());
+  control<QAction>(*form, "mnuASelect")->trigger();
+  EXPECT_EQ("[x]A.DAT\n[x]B.DAT\n", listText(list(), 1));
+  control<QAction>(*form, "mnuACancel")->trigger();
+  press(*form, "cmdCSVSave");
+  EXPECT_EQ("", desk.takeLog() + textIn<QLabel>(*form, "lblPrg"));
+  check(0);
+  type(*form, "txtFolder(1)", "/nonexistent");
+  press(*form, "cmdCSVSave");
+  EXPECT_EQ("box[File Error][Folder does not exist.]\n", desk.takeLog());
+}
+
+TEST_F(frmBin_CSVTest, FoldersArePickedOrTyped) {
+  const std::string more = top + "/more";
+  choose(1, more.c_str());
+  EXPECT_EQ(top + "|" + more, folders());
+  // Also after a cancel the default folder is shown, and listed.
+  choose(0, nullptr);
+  EXPECT_EQ(more + "|" + more, folders());
+  EXPECT_EQ("[ ]C.DAT\n", listText(list(), 1));
+  check(0);
+  enter(*form, "txtFolder(0)", top.c_str());
+  EXPECT_EQ("[ ]A.DAT\n[ ]B.DAT\n", listText(list(), 1));
+}
+
+TEST_F(frmBin_CSVTest, ConvertsOnlyWhatItsListShows) {
+  check(0);
+  const auto* box = control<QLineEdit>(*form, "txtFolder(0)");
+  form->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  control<QLineEdit>(*form, "txtFolder(0)")->setFocus();
+  QTest::keyClicks(form->focusWidget(), "/more");
+  // Pressed by its letter, the button leaves the focus where it is.
+  QTest::keyClick(form->focusWidget(), Qt::Key_S, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return listText(list(), 1) == "[ ]C.DAT\n"; }));
+  EXPECT_EQ(box, form->focusWidget());
+  EXPECT_FALSE(fs::exists(top + "/C.csv") || fs::exists(top + "/A.csv"));
+}
+
+TEST_F(frmBin_CSVTest, ConvertsTheCheckedFilesWithItsControlsLocked) {
+  std::string during;
+  whileConverting([&] {
+    during = state() + vk::fromQt(control<QLabel>(*form, "lblPrgCnt")->text()) +
+             textIn<QPushButton>(*form, "cmdCancel");
+  });
+  check(1);
+  press(*form, "cmdCSVSave");
+  EXPECT_EQ(
+      "10000000000"
+      "0%&Stop",
+      during);
+  EXPECT_EQ("&Close", textIn<QPushButton>(*form, "cmdCancel"));
+  EXPECT_EQ("11111111111", state());
+  EXPECT_EQ("B.csv  conversion ended.|100%",
+            textIn<QLabel>(*form, "lblPrg") + "|" + textIn<QLabel>(*form, "lblPrgCnt"));
+  EXPECT_EQ("none 1,0.5", firstLine("A.csv") + " " + firstLine("B.csv"));
+  control<QRadioButton>(*form, "optCoeff(1)")->click();
+  control<QCheckBox>(*form, "chkDivision")->setChecked(true);
+  press(*form, "cmdCSVSave");
+  EXPECT_EQ("1,2 1,2 none", firstLine("B_0001.csv") + " " + firstLine("B_0002.csv") + " " +
+                                firstLine("B_0003.csv"));
+  EXPECT_EQ("", desk.takeLog());
+}
+
+TEST_F(frmBin_CSVTest, StopKeepsItOpen) {
+  check(0);
+  whileConverting([this] { press(*form, "cmdCancel"); });
+  press(*form, "cmdCSVSave");
+  EXPECT_TRUE(form->isVisible());
+  EXPECT_EQ("canceled.|0", textIn<QLabel>(*form, "lblPrg") + "|" +
+                               std::to_string(control<QProgressBar>(*form, "pbrFile")->value()));
+  EXPECT_FALSE(fs::exists(top + "/A.csv"));
+  press(*form, "cmdCancel");
+  EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(frmBin_CSVTest, ClosingItStopsTheWork) {
+  check(0);
+  check(1);
+  whileConverting([&] {
+    form->close();
+    EXPECT_TRUE(form->isVisible());
+  });
+  press(*form, "cmdCSVSave");
+  EXPECT_FALSE(form->isVisible());
+  EXPECT_FALSE(fs::exists(top + "/A.csv") || fs::exists(top + "/B.csv"));
+  EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
+}
+
+}  // namespace
+}  // namespace vktest
