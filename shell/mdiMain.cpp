@@ -19,24 +19,16 @@
 #include "base/clsFlagGuard.h"
 #include "base/mdlTwips.h"
 #include "desktop/clsBarScroller.h"
-#include "desktop/clsTimerPause.h"
 #include "desktop/qtText.h"
 #include "link/mdlConnection.h"
 #include "link/mdlUSBCommand.h"
 #include "monitors/frmMonitor.h"
-#include "monitors/frmSetMonitor.h"
-#include "monitors/mdlMonitorSelection.h"
 #include "shell/frmBoxPanel.h"
 #include "shell/frmMsgButton.h"
-#include "shell/frmSelectMeterCh.h"
 #include "shell/frmStart.h"
-#include "shell/frmStatusBar.h"
 #include "shell/mdlConfig.h"
 #include "shell/mdlMain.h"
-#include "shell/mdlSelectMeter.h"
-#include "storage/frmRouteDirectory.h"
 #include "storage/mdlTempFiles.h"
-#include "storage/mdlWaveOpenRequest.h"
 
 namespace vk {
 
@@ -275,41 +267,6 @@ void mdiMain::fitFrame() {
   for (const auto* child : area_->subWindowList()) {
     if (child->isVisible()) makeRoomFor(child->geometry());
   }
-}
-
-// --- actions on a box -------------------------------------------------------------------------
-
-bool mdiMain::selectBox(int32_t mode, bool check) {
-  gSelMode = mode;
-  frmSelectMeterCh dialog(check, this);
-  dialog.exec();
-  return boxSelected();
-}
-
-void mdiMain::mnuFMeterRead() {
-  const clsTimerPause pause(*tmrStatus_);
-  if (!selectBox(kSelectBox)) return;
-  const int32_t serial = gSelSerial;
-  {
-    frmStatusBar progress(QStringLiteral("Read USB"), this);
-    progress.setLines(tr("Reading the directory of the CF card."));
-    progress.open();
-    gLinkEvents.progress = [&progress](double fraction) { progress.setProgress(fraction); };
-    const int32_t result = usbRTD(serial);
-    gLinkEvents.progress = {};
-    if (result != kUsbOk) return;
-  }
-  waveRequestSet = 0;
-  frmRouteDirectory form(serial, this);
-  form.openCard();
-  form.exec();
-  txtDelFile_->setPlainText(toQt(gTempFileList));
-  if (waveRequestSet == 1) lblStatusTip_->setText(tr("Read; this version cannot show waves yet."));
-}
-
-void mdiMain::mnuEMonitorSet() {
-  frmSetMonitor(this).exec();
-  applyMonitorSelection();
 }
 
 }  // namespace vk

@@ -96,8 +96,17 @@ class mdiMain : public QMainWindow {
   void loseLink();
 
   bool selectBox(int32_t mode, bool check = false);
+  template <typename Dialog>
+  void openOnBox(int32_t mode);
   void mnuFMeterRead();
+  void mnuFCSVChange();
+  void mnuEMeasureSet();
   void mnuEMonitorSet();
+  void mnuETimeSet();
+  void mnuCBalance();
+  void mnuCCAL();
+  void mnuCSetList();
+  void mnuCCFinit();
   void mnuCReconnect();
 
   QWidget* picShtCut_;

@@ -106,10 +106,8 @@ void mdiMain::buildFileMenu() {
                  "&Open data file",
                  "Opens stored recordings as waves (not in this version yet)",
                  {}});
-  addItem(menu, {"mnuFCSVChange",
-                 "Data file &CSV conversion",
-                 "Turns stored recordings into CSV files (not in this version yet)",
-                 {}});
+  addItem(menu, {"mnuFCSVChange", "Data file &CSV conversion",
+                 "Turns stored recordings into CSV files", [this] { mnuFCSVChange(); }});
   addItem(menu,
           {"mnuFMeterRead", "&Read data from VK-480Q",
            "Lists the recordings on a box's card and saves them", [this] { mnuFMeterRead(); }});
@@ -122,16 +120,13 @@ void mdiMain::buildFileMenu() {
 
 void mdiMain::buildSettingsMenu() {
   auto* menu = addMenu("mnuEdit", tr("&Settings"));
-  addItem(menu, {"mnuEMeasureSet",
-                 "&Measurement condition setting",
-                 "Sets channels, ranges, sampling and trigger of a box (not in this version yet)",
-                 {}});
+  addItem(menu,
+          {"mnuEMeasureSet", "&Measurement condition setting",
+           "Sets channels, ranges, sampling and trigger of a box", [this] { mnuEMeasureSet(); }});
   addItem(menu, {"mnuEMonitorSet", "M&onitor setting", "Chooses which live monitors are shown",
                  [this] { mnuEMonitorSet(); }});
-  addItem(menu, {"mnuETimeSet",
-                 "Date-&Time setting",
-                 "Sets the clock of a box (not in this version yet)",
-                 {}});
+  addItem(menu, {"mnuETimeSet", "Date-&Time setting", "Sets the clock of a box",
+                 [this] { mnuETimeSet(); }});
 }
 
 void mdiMain::buildViewMenus() {
@@ -165,24 +160,16 @@ void mdiMain::buildViewMenus() {
 
 void mdiMain::buildEtcMenu() {
   auto* menu = addMenu("mnuEtc", tr("&Control"));
-  addItem(menu, {"mnuCBalance",
-                 "&Balance",
-                 "Zeroes the bridges of one box or all (not in this version yet)",
-                 {}});
-  mnuCCAL_ = addItem(menu, {"mnuCCAL",
-                            "&Calibration",
-                            "Switches the calibration output of a box (not in this version yet)",
-                            {}});
+  addItem(menu, {"mnuCBalance", "&Balance", "Zeroes the bridges of one box or all",
+                 [this] { mnuCBalance(); }});
+  mnuCCAL_ = addItem(menu, {"mnuCCAL", "&Calibration", "Switches the calibration output of a box",
+                            [this] { mnuCCAL(); }});
   addItem(menu,
           {"mnuCOpen", "C&heck", "Runs the self checks of a box (not in this version yet)", {}});
-  addItem(menu, {"mnuCSetList",
-                 "&Setting /Conditions list",
-                 "Lists the conditions of a box (not in this version yet)",
-                 {}});
-  addItem(menu, {"mnuCCFinit",
-                 "&Initializing CF card",
-                 "Formats the card in a box (not in this version yet)",
-                 {}});
+  addItem(menu, {"mnuCSetList", "&Setting /Conditions list", "Lists the conditions of a box",
+                 [this] { mnuCSetList(); }});
+  addItem(menu, {"mnuCCFinit", "&Initializing CF card", "Formats the card in a box",
+                 [this] { mnuCCFinit(); }});
   menu->addSeparator();
   addItem(menu, {"mnuCReconnect", "&Re-connect", "Searches the bus for boxes again",
                  [this] { mnuCReconnect(); }})

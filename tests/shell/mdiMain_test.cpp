@@ -139,12 +139,12 @@ TEST_F(mdiMainTest, MenuItemsStandInTheirPlaces) {
     }
   }
   EXPECT_EQ(text,
-            "&File:-&Open data file-Data file &CSV conversion+&Read data from VK-480Q"
+            "&File:-&Open data file+Data file &CSV conversion+&Read data from VK-480Q"
             "+E&xit VK-480Q CONTROLLER"
-            "&Settings:-&Measurement condition setting+M&onitor setting-Date-&Time setting"
+            "&Settings:+&Measurement condition setting+M&onitor setting+Date-&Time setting"
             "&Window:+&Horizontal+&Vertical+&Cascade&View:+Short cut+Status"
-            "&Control:-&Balance-&Calibration-C&heck-&Setting /Conditions list"
-            "-&Initializing CF card+&Re-connect-&About VK-480Q CONTROLLER");
+            "&Control:+&Balance+&Calibration-C&heck+&Setting /Conditions list"
+            "+&Initializing CF card+&Re-connect-&About VK-480Q CONTROLLER");
 }
 
 TEST_F(mdiMainTest, TheCalibrationButtonShowsWithAnAnalogOutputOnly) {

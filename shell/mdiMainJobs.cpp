@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+// The menu items of the main window that act on a box or on stored data: each chooses its box,
+// keeps the status cycle still and opens a dialog or runs a job.
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTimer>
+
+#include "base/clsDesktop.h"
+#include "conditions/frmList.h"
+#include "conditions/frmSetting.h"
+#include "desktop/clsTimerPause.h"
+#include "desktop/qtText.h"
+#include "link/mdlUSBCommand.h"
+#include "maintenance/frmCal.h"
+#include "maintenance/frmDataTime.h"
+#include "maintenance/mdlBalance.h"
+#include "monitors/frmSetMonitor.h"
+#include "monitors/mdlMonitorSelection.h"
+#include "shell/frmSelectMeterCh.h"
+#include "shell/frmStatusBar.h"
+#include "shell/mdiMain.h"
+#include "shell/mdlSelectMeter.h"
+#include "storage/frmBin_CSV.h"
+#include "storage/frmRouteDirectory.h"
+#include "storage/mdlTempFiles.h"
+#include "storage/mdlWaveOpenRequest.h"
+
+namespace vk {
+
+namespace {
+
+/// The running job's window, as the job sees it.
+JobView viewOf(frmStatusBar& window) {
+  return {[&window](const std::string& first, const std::string& second) {
+            window.setLines(toQt(first), toQt(second));
+          },
+          [&window](double fraction) { window.setProgress(fraction); }};
+}
+
+}  // namespace
+
+bool mdiMain::selectBox(int32_t mode, bool check) {
+  gSelMode = mode;
+  frmSelectMeterCh dialog(check, this);
+  dialog.exec();
+  return boxSelected();
+}
+
+/// A dialog on one chosen box.
+template <typename Dialog>
+void mdiMain::openOnBox(int32_t mode) {
+  const clsTimerPause pause(*tmrStatus_);
+  if (selectBox(mode)) Dialog(gSelSerial, this).exec();
+}
+
+void mdiMain::mnuFMeterRead() {
+  const clsTimerPause pause(*tmrStatus_);
+  if (!selectBox(kSelectBox)) return;
+  const int32_t serial = gSelSerial;
+  {
+    frmStatusBar progress(QStringLiteral("Read USB"), this);
+    progress.setLines(tr("Reading the directory of the CF card."));
+    progress.open();
+    gLinkEvents.progress = [&progress](double fraction) { progress.setProgress(fraction); };
+    const int32_t result = usbRTD(serial);
+    gLinkEvents.progress = {};
+    if (result != kUsbOk) return;
+  }
+  waveRequestSet = 0;
+  frmRouteDirectory form(serial, this);
+  form.openCard();
+  form.exec();
+  txtDelFile_->setPlainText(toQt(gTempFileList));
+  if (waveRequestSet == 1) lblStatusTip_->setText(tr("Read; this version cannot show waves yet."));
+}
+
+void mdiMain::mnuFCSVChange() {
+  frmBin_CSV(this).exec();
+}
+
+void mdiMain::mnuEMonitorSet() {
+  frmSetMonitor(this).exec();
+  applyMonitorSelection();
+}
+
+void mdiMain::mnuEMeasureSet() {
+  selectBox(kSelectBox);
+  // A row without a box opens the dialog as well: conditions can be prepared without one.
+  openMeasureSetting(gSelSerial, this, *tmrStatus_);
+}
+
+void mdiMain::mnuETimeSet() {
+  openOnBox<frmDataTime>(kSelectConnected);
+}
+
+void mdiMain::mnuCCAL() {
+  openOnBox<frmCal>(kSelectConnected);
+}
+
+void mdiMain::mnuCSetList() {
+  openOnBox<frmList>(kSelectBox);
+}
+
+void mdiMain::mnuCBalance() {
+  const clsTimerPause pause(*tmrStatus_);
+  selectBox(kSelectBoxAndChannel);
+  if (gSelSerial == kSelectCancelled || gSelSerial == kNoSerial) return;
+  const auto steps = balanceSteps(gSelSerial, gSelChannel);
+  frmStatusBar window(QStringLiteral("Balance"), this);
+  window.open();
+  runBalance(steps, viewOf(window));
+}
+
+void mdiMain::mnuCCFinit() {
+  const clsTimerPause pause(*tmrStatus_);
+  if (!selectBox(kSelectConnected) || !askCardInit(gSelSerial)) return;
+  frmStatusBar window(QStringLiteral("Initializing CF card"), this);
+  window.open();
+  runCardInit(gSelSerial, viewOf(window));
+}
+
+}  // namespace vk
