@@ -79,7 +79,10 @@ void addSaving(Tour& tour) {
               auto* label = control<QLabel>(QStringLiteral("lblPrg"));
               return label && label->text() == QLatin1String("Ended.");
             },
-            [] { click(QStringLiteral("cmdCancel")); }, "8-saved"});
+            [] {}, "8-saved"});
+  addCsv(tour);
+  tour.add({"close the card", [] { return isShown("frmRouteDirectory"); },
+            [] { click(QStringLiteral("cmdCancel")); }});
 }
 
 }  // namespace
@@ -129,6 +132,8 @@ int main(int argc, char** argv) {
   } else {
     vktour::addRecording(tour);
     vktour::addMonitors(tour);
+    vktour::addConditions(tour);
+    vktour::addTriggeredRecording(tour);
     vktour::addSaving(tour);
   }
   vktour::addEnd(tour);

@@ -61,6 +61,12 @@ class Tour {
 void addStart(Tour& tour);
 /// Opens a monitor of each kind, sets them and looks at them live.
 void addMonitors(Tour& tour);
+/// Conditions from a file go to the box, its channels are balanced, and it lists them.
+void addConditions(Tour& tour);
+/// A recording that its own signal triggers.
+void addTriggeredRecording(Tour& tour);
+/// In the card window: the newest recording as a CSV file, compared with its samples.
+void addCsv(Tour& tour);
 /// The monitors stand where they were when the program ended.
 void addReopened(Tour& tour);
 void addEnd(Tour& tour);
