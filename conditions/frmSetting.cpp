@@ -314,11 +314,10 @@ bool frmSetting::applyConditions() {
   for (std::size_t i = 1; i <= kChannels; ++i)
     slopes[i] = static_cast<int16_t>(shown.channel[i].slope);
   if (triggerCaution(mode(), shown.trigger, slopes)) say(kTriggerCautionTitle, kTriggerCautionText);
-  if (const int32_t error = checkControls(shown); error != kSettingOk) {
+  if (const int32_t error = checkControls(shown, dialogRecord_); error != kSettingOk) {
     MeasureSetErrorView(error);
     return false;
   }
-  dialogRecord_ = readControls(shown);
   const CommandTexts texts = buildCommandTexts(shown);
   frmStatusBar status(QStringLiteral("Set"), this);
   status.setLines(QStringLiteral("Now Setting VK-480Q."));

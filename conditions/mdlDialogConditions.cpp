@@ -109,9 +109,9 @@ MeasureSetting readControls(const DialogControls& controls) {
   return record;
 }
 
-int32_t checkControls(const DialogControls& controls) {
+int32_t checkControls(const DialogControls& controls, MeasureSetting& record) {
   try {
-    MeasureSetting record = readControls(controls);
+    record = readControls(controls);
     return checkSetting(record);
   } catch (const TypeMismatch&) {
     const auto& channels = controls.channel;

@@ -60,8 +60,9 @@ ChannelControls channelControls(const MeasureSetting& record, std::size_t channe
 /// level or coefficient that is no number throws TypeMismatch.
 MeasureSetting readControls(const DialogControls& controls);
 /// The SettingError of the record that the controls make, an unreadable level or coefficient
-/// included. With kSettingOk, readControls and buildCommandTexts do not throw.
-[[nodiscard]] int32_t checkControls(const DialogControls& controls);
+/// included. With kSettingOk `record` is that record as the check left it, and readControls and
+/// buildCommandTexts do not throw.
+[[nodiscard]] int32_t checkControls(const DialogControls& controls, MeasureSetting& record);
 
 struct CommandTexts {
   std::string setting;

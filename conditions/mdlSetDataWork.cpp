@@ -52,16 +52,6 @@ MeasureSetting& rowOf(int32_t serial) {
   return gBoxTable[static_cast<std::size_t>(row)];
 }
 
-/// A decoder fails by whatever stops it, and never lets it out.
-template <typename Work>
-int32_t trapped(Work work) {
-  try {
-    return work();
-  } catch (const std::exception&) {
-    return 1;
-  }
-}
-
 void decodeLevel(MeasureSetting& record, std::size_t channel, std::string_view field) {
   switch (field.empty() ? '\0' : field.front()) {
     case 'N':

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,6 +20,16 @@ inline constexpr std::string_view kDefaultSetHigh =
     "40505050507070707CUUUU+010N000N000N000200U000128K2222";
 inline constexpr std::string_view kDefaultUnits = "ue,ue,ue,ue";
 inline constexpr std::string_view kDefaultCoeffs = "1.000000,1.000000,1.000000,1.000000";
+
+/// A decoder fails by whatever stops it, with the result 1, and never lets it out.
+template <typename Work>
+int32_t trapped(Work work) {
+  try {
+    return work();
+  } catch (const std::exception&) {
+    return 1;
+  }
+}
 
 /// 0, or 1 and the row keeps what it had.
 [[nodiscard]] int32_t decodeSettingString(int32_t serial, std::string_view text);

@@ -186,17 +186,6 @@ void lookupLowEach(const LowWords& words, const std::string& value, PerChannel<i
   });
 }
 
-/// Whatever stops a parser makes the text unreadable; nothing gets out.
-template <typename Parse>
-int32_t trapped(Parse parse) {
-  try {
-    parse();
-    return 0;
-  } catch (const std::exception&) {
-    return 1;
-  }
-}
-
 // --- files --------------------------------------------------------------------------------------
 
 /// The path that the user chose, empty after a cancel. The dialog adds no extension of its own.
@@ -236,6 +225,7 @@ int32_t parseLowDialect(std::string_view text, MeasureSetting& record) {
     lookupLow(kLowSampling, values[kSamplingLine], record.sampling);
     lookupLow(kLowDataSize, values[kDataSizeLine], record.dataSize);
     readPreArea(values[kPreAreaLine], values[kPreAreaLine], record);
+    return 0;
   });
 }
 
@@ -251,6 +241,7 @@ int32_t parseHighDialect(std::string_view text, MeasureSetting& record) {
     // The sampling never is "100%", so here "100%" always reads as the first of its two meanings,
     // and the check turns it into the other where it has to. Files have long been read that way.
     readPreArea(values[kSamplingLine], values[kPreAreaLine], record);
+    return 0;
   });
 }
 
@@ -278,7 +269,8 @@ void MeasureSetErrorView(int32_t number) {
 }
 
 bool saveSettingFile(const DialogControls& controls) {
-  if (const int32_t error = checkControls(controls); error != kSettingOk) {
+  MeasureSetting record;
+  if (const int32_t error = checkControls(controls, record); error != kSettingOk) {
     MeasureSetErrorView(error);
     return false;
   }

@@ -43,7 +43,9 @@ void checkDialect(bool low, std::string_view text) {
   require(result == 0 || result == 1, "a parser gives 0 or 1", text);
   if (result != 0 || vk::checkSetting(record) != vk::kSettingOk) return;
   const auto controls = vktest::controlsOf(record, low ? vk::kVk240Q : vk::kVk480Q);
-  require(vk::checkControls(controls) == vk::kSettingOk, "shown conditions can be saved", text);
+  vk::MeasureSetting checked;
+  require(vk::checkControls(controls, checked) == vk::kSettingOk, "shown conditions can be saved",
+          text);
   const std::string written = vk::buildSettingFileText(controls) + "\r\n";
   const bool readable = vk::readSettingFile(written) == 0;
   require(readable == allRangesShown(controls), "a written file reads, but for empty words",

@@ -61,19 +61,7 @@ void frmBin_CSV::buildLayout() {
   csv_.build(this, *choices);
   choices->addStretch();
   choices->addWidget(cmdCSVSave_, 0, Qt::AlignRight);
-  auto* middle = new QHBoxLayout;
-  middle->setSpacing(16);
-  middle->addLayout(files, 11);
-  middle->addLayout(choices, 10);
-  auto* bottom = new QHBoxLayout;
-  bottom->setSpacing(16);
-  bottom->addWidget(progress_.build(this), 1);
-  bottom->addWidget(cmdCancel_, 0, Qt::AlignBottom);
-  auto* lines = new QVBoxLayout(this);
-  lines->setContentsMargins(14, 12, 14, 14);
-  lines->setSpacing(12);
-  lines->addLayout(middle, 1);
-  lines->addLayout(bottom);
+  layOutForm(this, nullptr, files, choices, progress_, cmdCancel_);
   tabThrough({folders_[0].txtFolder, folders_[0].cmdFolder, lvwFileName_, folders_[1].txtFolder,
               folders_[1].cmdFolder, csv_.optCoeff[0], csv_.optCoeff[1], csv_.chkDivision,
               csv_.cmbDivision, cmdCSVSave_, cmdCancel_});

@@ -175,4 +175,22 @@ void ProgressControls::connectTo(CardReadingView& view) const {
   view.setMessage = [label = lblPrg](const std::string& text) { label->setText(toQt(text)); };
 }
 
+void layOutForm(QWidget* form, QWidget* above, QLayout* files, QLayout* choices,
+                ProgressControls& progress, QPushButton* close) {
+  auto* middle = new QHBoxLayout;
+  middle->setSpacing(16);
+  middle->addLayout(files, 11);
+  middle->addLayout(choices, 10);
+  auto* bottom = new QHBoxLayout;
+  bottom->setSpacing(16);
+  bottom->addWidget(progress.build(form), 1);
+  bottom->addWidget(close, 0, Qt::AlignBottom);
+  auto* lines = new QVBoxLayout(form);
+  lines->setContentsMargins(14, 12, 14, 14);
+  lines->setSpacing(12);
+  if (above) lines->addWidget(above);
+  lines->addLayout(middle, 1);
+  lines->addLayout(bottom);
+}
+
 }  // namespace vk

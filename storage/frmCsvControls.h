@@ -10,6 +10,7 @@
 class QCheckBox;
 class QComboBox;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QMenu;
 class QProgressBar;
@@ -60,5 +61,10 @@ struct ProgressControls {
   /// The controls show what an operation says.
   void connectTo(CardReadingView& view) const;
 };
+
+/// The form: files on the left, choices on the right, progress and the closing button below. What
+/// stands above all, if anything, may be null.
+void layOutForm(QWidget* form, QWidget* above, QLayout* files, QLayout* choices,
+                ProgressControls& progress, QPushButton* close);
 
 }  // namespace vk

@@ -110,20 +110,7 @@ void frmRouteDirectory::buildLayout() {
   files->addWidget(captionOf(tr("F&iles on the card"), lvwFileName_, this));
   files->addWidget(lvwFileName_, 1);
   files->addWidget(cmdFileSerNameChange_, 0, Qt::AlignLeft);
-  auto* middle = new QHBoxLayout;
-  middle->setSpacing(16);
-  middle->addLayout(files, 11);
-  middle->addLayout(panels_, 10);
-  auto* bottom = new QHBoxLayout;
-  bottom->setSpacing(16);
-  bottom->addWidget(progress_.build(this), 1);
-  bottom->addWidget(cmdCancel_, 0, Qt::AlignBottom);
-  auto* lines = new QVBoxLayout(this);
-  lines->setContentsMargins(14, 12, 14, 14);
-  lines->setSpacing(12);
-  lines->addWidget(tbsSelect_);
-  lines->addLayout(middle, 1);
-  lines->addLayout(bottom);
+  layOutForm(this, tbsSelect_, files, panels_, progress_, cmdCancel_);
   tabThrough({tbsSelect_, lvwFileName_, cmdFileSerNameChange_, txtHead_, cmdRun_, txtFolder_[0],
               cmdFolder_[0], cmdBinSave_, txtFolder_[1], cmdFolder_[1], csv_.optCoeff[0],
               csv_.optCoeff[1], csv_.chkDivision, csv_.cmbDivision, cmdCSVSave_, cmdCancel_});

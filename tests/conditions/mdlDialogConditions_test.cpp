@@ -82,7 +82,8 @@ TEST(DialogConditions, ChecksWhatTheControlsMake) {
         const std::size_t bar = question.find(';');
         controls.channel[4].level = question.substr(0, bar);
         controls.channel[4].coeff = question.substr(bar + 1);
-        const int32_t error = checkControls(controls);
+        MeasureSetting record;
+        const int32_t error = checkControls(controls, record);
         if (error == kSettingOk) static_cast<void>(buildCommandTexts(controls));  // throws nothing
         return textOf(error);
       });
@@ -200,7 +201,8 @@ TEST(DialogConditions, WhatIsSentReadsBackTheSame) {
     gBoxTable[1].serial = controls.serial;
     gBoxTable[1].model = static_cast<int16_t>(controls.model);
     const MeasureSetting expected = throughInstrument(controls, gBoxTable[1]);
-    ASSERT_EQ(checkControls(controls), kSettingOk);
+    MeasureSetting record;
+    ASSERT_EQ(checkControls(controls, record), kSettingOk);
     const CommandTexts texts = buildCommandTexts(controls);
     ASSERT_EQ(decodeSettingString(controls.serial, texts.setting), 0) << texts.setting;
     ASSERT_EQ(decodeUnitList(controls.serial, texts.unit + "\r\n"), 0);

@@ -259,7 +259,8 @@ TEST_F(SettingFile, ReadsBackWhatItWrites) {
   std::mt19937 random(20260106);
   for (int turn = 0; turn < 2000; ++turn) {
     const DialogControls controls = vktest::randomControls(random, turn % 5 - 1);
-    ASSERT_EQ(checkControls(controls), kSettingOk);
+    MeasureSetting record;
+    ASSERT_EQ(checkControls(controls, record), kSettingOk);
     const std::string text = buildSettingFileText(controls) + "\r\n";
     ASSERT_EQ(readSettingFile(text), 0) << text << takeLog();
     ASSERT_EQ(row(), vktest::throughFile(controls)) << text;
