@@ -187,11 +187,11 @@ int32_t fileErrorOf(int errnoValue) {
   }
 }
 
-clsFileWriter::~clsFileWriter() {
+FileWriter::~FileWriter() {
   discard();
 }
 
-int32_t clsFileWriter::open(const fs::path& target) {
+int32_t FileWriter::open(const fs::path& target) {
   discard();
   error_ = kFileOther;
   if (!isName(target) || !target.has_filename()) return error_ = kFileBadName;
@@ -212,7 +212,7 @@ int32_t clsFileWriter::open(const fs::path& target) {
   return error_ = kFileOk;
 }
 
-int32_t clsFileWriter::write(const void* bytes, std::size_t count) {
+int32_t FileWriter::write(const void* bytes, std::size_t count) {
   if (descriptor_ < 0 && error_ == kFileOk) error_ = kFileOther;
   const char* next = static_cast<const char*>(bytes);
   while (error_ == kFileOk && count > 0) {
@@ -236,7 +236,7 @@ int32_t clsFileWriter::write(const void* bytes, std::size_t count) {
   return error_;
 }
 
-int32_t clsFileWriter::commit() {
+int32_t FileWriter::commit() {
   if (descriptor_ < 0) return error_ == kFileOk ? kFileOther : error_;
   if (error_ == kFileOk) error_ = syncDescriptor(descriptor_);
   if (const auto error = giveName()) return error;
@@ -244,13 +244,13 @@ int32_t clsFileWriter::commit() {
   return kFileOk;
 }
 
-int32_t clsFileWriter::commitUnflushed() {
+int32_t FileWriter::commitUnflushed() {
   if (descriptor_ < 0) return error_ == kFileOk ? kFileOther : error_;
   (void)::sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
   return giveName();
 }
 
-int32_t clsFileWriter::giveName() {
+int32_t FileWriter::giveName() {
   const int descriptor = descriptor_;
   descriptor_ = -1;
   if (::close(descriptor) != 0 && errno != EINTR && error_ == kFileOk) error_ = lastError();
@@ -265,7 +265,7 @@ int32_t clsFileWriter::giveName() {
   return kFileOk;
 }
 
-void clsFileWriter::discard() {
+void FileWriter::discard() {
   if (descriptor_ >= 0) {
     ::close(descriptor_);
     ::unlink(temporary_.c_str());
@@ -284,14 +284,14 @@ int32_t flushFolder(const fs::path& folder) {
 }
 
 int32_t writeWholeFile(const fs::path& path, std::string_view text) {
-  clsFileWriter writer;
+  FileWriter writer;
   if (const auto error = writer.open(path)) return error;
   if (const auto error = writer.write(text)) return error;
   return writer.commit();
 }
 
 int32_t writeTextFile(const fs::path& path, std::string_view text) {
-  clsFileWriter writer;
+  FileWriter writer;
   if (const auto error = writer.open(path)) return error;
   if (const auto error = writer.write(text)) return error;
   if (const auto error = writer.write("\r\n")) return error;

@@ -27,12 +27,12 @@ int32_t fileErrorOf(int errnoValue);
 
 /// Streams a file to its target. Nothing stands under the target's name until commit() succeeds;
 /// destroying the writer without a commit removes what was written.
-class clsFileWriter {
+class FileWriter {
  public:
-  clsFileWriter() = default;
-  ~clsFileWriter();
-  clsFileWriter(const clsFileWriter&) = delete;
-  clsFileWriter& operator=(const clsFileWriter&) = delete;
+  FileWriter() = default;
+  ~FileWriter();
+  FileWriter(const FileWriter&) = delete;
+  FileWriter& operator=(const FileWriter&) = delete;
 
   [[nodiscard]] int32_t open(const std::filesystem::path& target);
   /// The bytes written, all or an error; after an error every further call fails the same way.

@@ -58,6 +58,14 @@ std::string keyValue(std::string_view fileText, std::string_view key) {
   return trim(value.substr(0, value.find_first_of("\r\n")));
 }
 
+std::string headerValue(std::string_view text, std::string_view key) {
+  const std::size_t start = text.find(key);
+  if (start == std::string_view::npos) return {};
+  const std::size_t end = text.find("\r\n", start);
+  if (end == std::string_view::npos) throw TypeMismatch(text.substr(start));
+  return trim(text.substr(start + key.size(), end - start - key.size()));
+}
+
 std::string leftOf(std::string_view text, std::string_view delimiter) {
   const auto found = text.find(delimiter);
   if (found == std::string_view::npos) return std::string(text);

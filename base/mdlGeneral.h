@@ -24,6 +24,9 @@ std::string dropLastComma(std::string_view text);
 /// First occurrence of `key` anywhere, to the end of that line (CR, LF or end of text), less the
 /// key, trimmed; empty when the key does not occur.
 std::string keyValue(std::string_view fileText, std::string_view key);
+/// The value behind the first occurrence of the key, up to the next CR LF, trimmed; empty when the
+/// key does not occur. Without a CR LF behind it the value cannot be read: TypeMismatch.
+std::string headerValue(std::string_view text, std::string_view key);
 /// The text before the delimiter less one more character (the CR of a CR LF); the whole text when
 /// the delimiter does not occur.
 std::string leftOf(std::string_view text, std::string_view delimiter);

@@ -14,10 +14,10 @@
 #include <fstream>
 #include <string>
 
-#include "link/mdlBoxTable.h"
+#include "instrument/simulator/library.h"
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
-#include "simulator/library.h"
+#include "recorder/mdlBoxTable.h"
 #include "storage/mdlCardReading.h"
 #include "tests/support/fake_desktop.h"
 

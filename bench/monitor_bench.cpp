@@ -6,11 +6,6 @@
 // at the end and by how much it grew since the first virtual minute. Runs on a display (see
 // scripts/on-display.sh) or with QT_QPA_PLATFORM=offscreen.
 
-// Before Qt, whose keyword "signals" is a name in here.
-#include "simulator/library.h"
-#include "tests/simulator/bench.h"
-
-// Keeps the two blocks apart.
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 
@@ -24,11 +19,13 @@
 #include <thread>
 
 #include "desktop/clsPictureBox.h"
-#include "link/mdlBoxTable.h"
+#include "instrument/simulator/library.h"
 #include "link/mdlConnection.h"
 #include "monitors/frmMonitor.h"
 #include "monitors/mdlMonitorCycle.h"
+#include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
+#include "tests/instrument/simulator/bench.h"
 #include "tests/support/window_desktop.h"
 
 namespace {

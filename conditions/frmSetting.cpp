@@ -7,17 +7,16 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
 #include "conditions/mdlSettingFile.h"
 #include "desktop/clsTimerPause.h"
+#include "desktop/frmStatusBar.h"
 #include "desktop/qtText.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
-#include "monitors/mdlMonitorCycle.h"
-#include "shell/frmStatusBar.h"
-#include "shell/mdlSelectMeter.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
+#include "recorder/mdlSelectMeter.h"
 
 namespace vk {
 
@@ -61,10 +60,10 @@ void enableAll(bool on, std::initializer_list<QWidget*> widgets) {
 
 }  // namespace
 
-void openMeasureSetting(int32_t serial, QWidget* parent, QTimer& tmrStatus) {
-  if (serial == kSelectCancelled || serial == kSelectAllMeters) return;
+bool openMeasureSetting(int32_t serial, QWidget* parent, QTimer& tmrStatus) {
+  if (serial == kSelectCancelled || serial == kSelectAllMeters) return false;
   const clsTimerPause pause(tmrStatus);
-  frmSetting(serial, parent).exec();
+  return frmSetting(serial, parent).exec() == QDialog::Accepted;
 }
 
 // --- opening ------------------------------------------------------------------------------------
@@ -324,7 +323,6 @@ bool frmSetting::applyConditions() {
   status.open();
   if (!sendConditions(texts, status)) return false;
   storeRecord(slotIndexOf(dialogRecord_.serial), dialogRecord_);
-  refreshMonitorUnits();
   return true;
 }
 

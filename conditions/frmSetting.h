@@ -31,8 +31,8 @@ class frmStatusBar;
 /// Shows the dialog for the box with that serial and returns when it is closed; with kNoSerial it
 /// opens without a box, and with a cancelled selection (kSelectCancelled) or all meters
 /// (kSelectAllMeters) not at all. `tmrStatus`, the timer of the status poll, stands still
-/// meanwhile: nobody else talks to the box while the dialog is open.
-void openMeasureSetting(int32_t serial, QWidget* parent, QTimer& tmrStatus);
+/// meanwhile: nobody else talks to the box while the dialog is open. True when conditions were set.
+bool openMeasureSetting(int32_t serial, QWidget* parent, QTimer& tmrStatus);
 
 class frmSetting : public QDialog {
   Q_OBJECT

@@ -7,9 +7,9 @@
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 

@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "conditions/mdlSetDataWork.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
+#include "recorder/mdlSetDataWork.h"
 
 namespace vk {
 

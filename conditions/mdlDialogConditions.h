@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
-#include "conditions/mdlConditionRules.h"
-#include "conditions/mdlMeasureSetting.h"
+#include "recorder/mdlConditionRules.h"
+#include "recorder/mdlMeasureSetting.h"
 
 namespace vk {
 

@@ -11,11 +11,10 @@
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "conditions/mdlConditionRules.h"
-#include "conditions/mdlSetDataWork.h"
-#include "link/mdlBoxTable.h"
-#include "storage/mdlHedDataWork.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
+#include "recorder/mdlConditionRules.h"
+#include "recorder/mdlSetDataWork.h"
 
 namespace vk {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "conditions/mdlDialogConditions.h"
-#include "conditions/mdlMeasureSetting.h"
+#include "recorder/mdlMeasureSetting.h"
 
 namespace vk {
 

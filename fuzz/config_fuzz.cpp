@@ -8,8 +8,8 @@
 
 #include "base/mdlGeneral.h"
 #include "fuzz/fuzz_check.h"
-#include "link/mdlBoxTable.h"
 #include "monitors/mdlMonitorRecords.h"
+#include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
 #include "shell/mdlConfigText.h"
 #include "tests/support/fake_desktop.h"

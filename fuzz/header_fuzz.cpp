@@ -6,8 +6,8 @@
 
 #include "base/mdlGeneral.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
 #include "fuzz/fuzz_check.h"
+#include "recorder/mdlCodeTables.h"
 #include "storage/mdlHedDataWork.h"
 
 using vkfuzz::require;

@@ -5,11 +5,11 @@
 #include <cmath>
 
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "conditions/mdlConditionRules.h"
-#include "conditions/mdlSetDataWork.h"
 #include "fuzz/fuzz_check.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
+#include "recorder/mdlConditionRules.h"
+#include "recorder/mdlSetDataWork.h"
 
 using vkfuzz::require;
 

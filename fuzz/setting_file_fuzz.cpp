@@ -3,10 +3,10 @@
 // 9 only, what is refused leaves no trace and is told in one box, and a record that a dialog could
 // show comes back from the file that is written of it.
 #include "base/mdlText.h"
-#include "conditions/mdlConditionRules.h"
 #include "conditions/mdlSettingFile.h"
 #include "fuzz/fuzz_check.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlConditionRules.h"
 #include "tests/support/dialog_controls.h"
 #include "tests/support/fake_desktop.h"
 

@@ -8,10 +8,10 @@
 #include <tuple>
 
 #include "base/clsDesktop.h"
-#include "conditions/mdlSetDataWork.h"
-#include "link/mdlBoxTable.h"
+#include "link/mdlBoxSetting.h"
 #include "link/mdlUSBCommand.h"
 #include "link/vk240q_lib.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "base/clsDesktop.h"
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "base/mdlMessages.h"
 #include "base/mdlText.h"
 #include "link/vk240q_lib.h"

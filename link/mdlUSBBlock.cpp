@@ -5,12 +5,12 @@
 #include <array>
 #include <string_view>
 
-#include "base/clsFlagGuard.h"
-#include "link/mdlBoxTable.h"
+#include "base/mdlGuard.h"
 #include "link/mdlCardDirectory.h"
 #include "link/mdlExchange.h"
 #include "link/mdlUSBCommand.h"
 #include "link/vk240q_lib.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

@@ -3,11 +3,11 @@
 
 #include <fmt/format.h>
 
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "base/mdlText.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlExchange.h"
 #include "link/vk240q_lib.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

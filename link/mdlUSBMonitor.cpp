@@ -3,11 +3,11 @@
 // retry each; the failure that exceeds its allowance is not counted.
 #include <fmt/format.h>
 
-#include "base/clsFlagGuard.h"
 #include "base/mdlGeneral.h"
-#include "link/mdlBoxTable.h"
+#include "base/mdlGuard.h"
 #include "link/mdlExchange.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "base/mdlText.h"
 #include "link/mdlExchange.h"
 #include "link/mdlUSBCommand.h"

@@ -11,9 +11,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "desktop/qtText.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

@@ -10,7 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "desktop/qtText.h"
 
 namespace vk {

@@ -7,7 +7,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "desktop/qtText.h"
 #include "desktop/uiIcons.h"
 

@@ -4,10 +4,10 @@
 #include "base/clsDesktop.h"
 #include "base/mdlGeneral.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
-#include "shell/mdlSelectMeter.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
+#include "recorder/mdlSelectMeter.h"
 
 namespace vk {
 

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "base/clsDesktop.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

@@ -22,7 +22,7 @@ constexpr int kSmallest = 7;    // pixels; letters below this cannot be read
 constexpr int kUsualValue = 8;  // characters
 
 /// Part of a number looks like another number: what has no room is all signs.
-class clsNumberLabel : public QLabel {
+class NumberLabel : public QLabel {
  public:
   using QLabel::QLabel;
 
@@ -70,7 +70,7 @@ frmMoniBar::frmMoniBar()
 frmMoniBar::Panel frmMoniBar::buildPanel(int bar) {
   Panel panel;
   panel.picCh = named(new QWidget(this), elementName("picCh", bar), tr("Bar %1").arg(bar + 1));
-  panel.lblMonitor = named(new clsNumberLabel(panel.picCh), elementName("lblMonitor", bar));
+  panel.lblMonitor = named(new NumberLabel(panel.picCh), elementName("lblMonitor", bar));
   panel.lblMonitor->setTextFormat(Qt::PlainText);
   panel.lblMonitor->setAlignment(Qt::AlignCenter);
   const auto add = [&](const char* name, Qt::Alignment side) {

@@ -5,8 +5,8 @@
 #include <QFormLayout>
 #include <QLineEdit>
 
-#include "conditions/mdlCodeTables.h"
 #include "desktop/qtText.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 

@@ -4,8 +4,8 @@
 #include <QComboBox>
 #include <QFormLayout>
 
-#include "conditions/mdlCodeTables.h"
 #include "desktop/qtText.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 

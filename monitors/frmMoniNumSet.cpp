@@ -11,9 +11,9 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "conditions/mdlCodeTables.h"
 #include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 
@@ -95,7 +95,7 @@ void frmMoniNumSet::buildAbnormal() {
 
 frmMoniNumSet::Sample frmMoniNumSet::addSample(QFormLayout* form, const char* back,
                                                const char* fore) {
-  auto* area = named(new clsColourArea(form->parentWidget()), QString::fromLatin1(back));
+  auto* area = named(new ColourArea(form->parentWidget()), QString::fromLatin1(back));
   auto* row = new QHBoxLayout(area);
   auto* label = named(new QLabel(toQt(sampleText(0)), area), QString::fromLatin1(fore));
   label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

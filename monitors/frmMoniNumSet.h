@@ -18,7 +18,7 @@ class frmMoniNumSet : public frmMonitorSetting {
 
  private:
   struct Sample {
-    clsColourArea* back = nullptr;
+    ColourArea* back = nullptr;
     QLabel* fore = nullptr;
   };
   Sample addSample(QFormLayout* form, const char* back, const char* fore);

@@ -3,7 +3,7 @@
 
 #include <QFormLayout>
 
-#include "conditions/mdlCodeTables.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 

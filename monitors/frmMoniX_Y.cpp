@@ -11,14 +11,14 @@
 
 #include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 
 /// The round mark of the latest point.
-class clsPointer : public QWidget {
+class Pointer : public QWidget {
  public:
-  explicit clsPointer(QWidget* parent) : QWidget(parent) {
+  explicit Pointer(QWidget* parent) : QWidget(parent) {
     constexpr int kSize = 9;
     resize(kSize, kSize);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -62,7 +62,7 @@ frmMoniX_Y::frmMoniX_Y()
   picWave_ = addPicture("picWave");
   picWave_->setAccessibleName(tr("Plot"));
   picWaveSub_ = addPicture("picWaveSub");
-  shpPoint_ = named(new clsPointer(picWave_), QStringLiteral("shpPoint"));
+  shpPoint_ = named(new Pointer(picWave_), QStringLiteral("shpPoint"));
   for (std::size_t i = 0; i < kXYAxes; ++i) addAxis(i);
   auto* column = addFrame("cmdReset");
   column->setDirection(QBoxLayout::LeftToRight);

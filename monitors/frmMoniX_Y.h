@@ -14,7 +14,7 @@ class QSlider;
 
 namespace vk {
 
-class clsPointer;
+class Pointer;
 
 class frmMoniX_Y : public frmMonitor {
   Q_OBJECT
@@ -60,7 +60,7 @@ class frmMoniX_Y : public frmMonitor {
   XYMonitor monitor_;
   clsPictureBox* picWave_;
   clsPictureBox* picWaveSub_;
-  clsPointer* shpPoint_;
+  Pointer* shpPoint_;
   std::array<Block, kXYAxes> axes_{};
 };
 

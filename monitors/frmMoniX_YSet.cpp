@@ -3,8 +3,8 @@
 
 #include <QFormLayout>
 
-#include "conditions/mdlCodeTables.h"
 #include "desktop/qtText.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 

@@ -17,9 +17,9 @@
 #include "base/mdlTwips.h"
 #include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
-#include "link/mdlBoxTable.h"
 #include "monitors/frmMonitorSetting.h"
 #include "monitors/mdlMonitorValue.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

@@ -19,7 +19,6 @@
 #include "desktop/clsPictureBox.h"
 #include "desktop/clsQuietList.h"
 #include "desktop/qtText.h"
-#include "link/mdlBoxTable.h"
 #include "monitors/frmMoniBarSet.h"
 #include "monitors/frmMoniCircleSet.h"
 #include "monitors/frmMoniNumSet.h"
@@ -27,6 +26,7 @@
 #include "monitors/frmMoniX_YSet.h"
 #include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorValue.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 
@@ -78,12 +78,12 @@ void openMonitorSetting(MonitorKind kind, std::size_t index, QWidget* parent) {
 
 // --- colours ----------------------------------------------------------------------------------
 
-void clsColourArea::setBackColor(Colour colour) {
+void ColourArea::setBackColor(Colour colour) {
   colour_ = colour;
   update();
 }
 
-void clsColourArea::paintEvent(QPaintEvent*) {
+void ColourArea::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   if (!isEnabled()) painter.setOpacity(0.4);
   painter.setPen(palette().color(QPalette::Mid));
@@ -96,7 +96,7 @@ void frmMonitorSetting::addColour(QFormLayout* form, const QString& label, int i
   auto* holder = new QWidget(form->parentWidget());
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(0, 0, 0, 0);
-  auto* area = named(new clsColourArea(holder), elementName("picColor", i));
+  auto* area = named(new ColourArea(holder), elementName("picColor", i));
   area->setMinimumSize(48, 22);
   auto* button = new QPushButton(tr("Choose..."), holder);
   named(button, elementName("cmdColor", i), tr("%1, choose").arg(QString(label).remove(u'&')));

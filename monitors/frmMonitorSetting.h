@@ -35,7 +35,7 @@ namespace vk {
 void openMonitorSetting(MonitorKind kind, std::size_t index, QWidget* parent);
 
 /// An area in a colour that is the control's value.
-class clsColourArea : public clsClickArea {
+class ColourArea : public clsClickArea {
  public:
   using clsClickArea::clsClickArea;
   Colour backColor() const { return colour_; }
@@ -145,7 +145,7 @@ class frmMonitorSetting : public QDialog {
   std::size_t index_ = 0;
   clsFieldGuard guard_;
   std::vector<Binding> bindings_;
-  std::map<int, clsColourArea*> colours_;
+  std::map<int, ColourArea*> colours_;
   QGridLayout* grid_;
   QLabel* lblMonitor_;
 };

@@ -4,9 +4,9 @@
 #include <algorithm>
 
 #include "base/clsDesktop.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
 #include "monitors/mdlMonitorValue.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

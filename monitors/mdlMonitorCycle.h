@@ -12,8 +12,8 @@
 #include <string>
 #include <string_view>
 
-#include "conditions/mdlMeasureSetting.h"
 #include "monitors/mdlMonitorRecords.h"
+#include "recorder/mdlMeasureSetting.h"
 
 namespace vk {
 

@@ -11,7 +11,7 @@
 #include <string>
 
 #include "base/clsPicture.h"
-#include "conditions/mdlMeasureSetting.h"
+#include "recorder/mdlMeasureSetting.h"
 
 namespace vk {
 

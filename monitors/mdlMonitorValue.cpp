@@ -6,8 +6,8 @@
 #include <limits>
 
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 

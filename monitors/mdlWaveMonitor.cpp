@@ -7,8 +7,8 @@
 
 #include "base/clsDesktop.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 

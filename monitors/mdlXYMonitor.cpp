@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "base/mdlText.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 

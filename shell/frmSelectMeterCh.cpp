@@ -8,7 +8,7 @@
 #include <QPushButton>
 
 #include "desktop/qtText.h"
-#include "shell/mdlSelectMeter.h"
+#include "recorder/mdlSelectMeter.h"
 
 namespace vk {
 

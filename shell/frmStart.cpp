@@ -11,7 +11,7 @@
 #include <QWindow>
 
 #include "base/clsDesktop.h"
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "base/mdlTwips.h"
 #include "desktop/qtText.h"
 #include "desktop/uiIcons.h"

@@ -16,7 +16,7 @@
 #include <QToolButton>
 
 #include "base/clsDesktop.h"
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "base/mdlTwips.h"
 #include "desktop/clsBarScroller.h"
 #include "desktop/qtText.h"

@@ -9,17 +9,18 @@
 #include "conditions/frmList.h"
 #include "conditions/frmSetting.h"
 #include "desktop/clsTimerPause.h"
+#include "desktop/frmStatusBar.h"
 #include "desktop/qtText.h"
 #include "link/mdlUSBCommand.h"
 #include "maintenance/frmCal.h"
 #include "maintenance/frmDataTime.h"
 #include "maintenance/mdlBalance.h"
 #include "monitors/frmSetMonitor.h"
+#include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorSelection.h"
+#include "recorder/mdlSelectMeter.h"
 #include "shell/frmSelectMeterCh.h"
-#include "shell/frmStatusBar.h"
 #include "shell/mdiMain.h"
-#include "shell/mdlSelectMeter.h"
 #include "storage/frmBin_CSV.h"
 #include "storage/frmRouteDirectory.h"
 #include "storage/mdlTempFiles.h"
@@ -86,7 +87,7 @@ void mdiMain::mnuEMonitorSet() {
 void mdiMain::mnuEMeasureSet() {
   selectBox(kSelectBox);
   // A row without a box opens the dialog as well: conditions can be prepared without one.
-  openMeasureSetting(gSelSerial, this, *tmrStatus_);
+  if (openMeasureSetting(gSelSerial, this, *tmrStatus_)) refreshMonitorUnits();
 }
 
 void mdiMain::mnuETimeSet() {

@@ -5,9 +5,9 @@
 
 #include "base/mdlMessages.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
 #include "link/mdlConnection.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlCodeTables.h"
 #include "shell/mdlConfig.h"
 
 namespace vk {
@@ -88,10 +88,6 @@ PanelView panelView(const MeasureSetting& row, int32_t contents) {
   view.colour = stateColour(view.state);
   view.buttons = buttonsEnabled(row);
   return view;
-}
-
-std::string serialOrDisconnect(const MeasureSetting& row) {
-  return isConnected(row) ? serialText(row.serial) : std::string(kDisconnect);
 }
 
 std::array<std::string, kBoxes> boxListTexts() {

@@ -10,12 +10,11 @@
 #include <string_view>
 
 #include "base/clsPicture.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 
 inline constexpr int32_t kNoBoxState = -1;
-inline constexpr std::string_view kDisconnect = "disconnect";
 
 /// Colour of the state indicator; empty when the indicator keeps the colour it has.
 std::optional<Colour> stateColour(int32_t state);
@@ -39,8 +38,6 @@ struct PanelView {
 };
 PanelView panelView(const MeasureSetting& row, int32_t contents);
 
-/// The seven-digit serial of a connected row, else "disconnect".
-std::string serialOrDisconnect(const MeasureSetting& row);
 /// The entries of the box list: rows 1 to 8.
 std::array<std::string, kBoxes> boxListTexts();
 /// Choice in the box list (from 0). True when it is another box than before: gMainBox is set, its

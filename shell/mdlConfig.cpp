@@ -7,14 +7,14 @@
 #include <system_error>
 #include <vector>
 
+#include "base/mdlDataFolder.h"
 #include "base/mdlFile.h"
 #include "base/mdlGeneral.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
 #include "link/vk240q_lib.h"
 #include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorRecords.h"
-#include "shell/clsMakeSpecialFolder.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 
@@ -24,41 +24,26 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kVendor = "NRV";
-constexpr const char* kFileName = "VK480Q.cfg";
 constexpr const char* kDefaultFolder = "d:\\";
 /// Far above any real file; a larger one is not ours.
 constexpr std::size_t kLargestFile = 1U << 20;
 
-std::string dataFolder() {
-  return clsMakeSpecialFolder().GetCommonAppDataPath_WithNRV(kVendor);
-}
-
-std::string below(const std::string& folder, const std::string& name) {
-  return folder.empty() ? std::string() : withBackslash(folder) + name;
-}
-
 /// The file that is there, which may spell its extension in capitals.
-std::optional<fs::path> findConfig(const std::string& folder) {
-  if (folder.empty()) return std::nullopt;
-  return findFileAnyCase(below(folder, kFileName));
+std::optional<fs::path> findConfig() {
+  return dataFolderExists() ? findFileAnyCase(configPath()) : std::nullopt;
 }
 
 /// True when the whole file was taken.
 bool readFileIfAny() {
-  const clsMakeSpecialFolder folders;
-  std::string folder;
-  if (folders.ExistsCommonAppDataPath_WithNRV(kVendor)) folder = dataFolder();
-  auto file = findConfig(folder);
+  auto file = findConfig();
   if (!file) {
     writeConfig();
-    folder = dataFolder();
-    file = findConfig(folder);
+    file = findConfig();
   }
-  if (folder.empty()) return false;
-  const std::string temporary = below(folder, "tmp");
+  const std::string temporary = tempFolder();
+  if (temporary.empty()) return false;
   std::error_code ignored;
-  if (folderMissing(temporary)) fs::create_directory(temporary, ignored);
+  if (folderMissing(temporary)) fs::create_directories(temporary, ignored);
   std::string text;
   if (!file || readTextFile(*file, text, kLargestFile) != kFileOk) return false;
   return readConfigText(text);
@@ -86,15 +71,6 @@ void clearFolder(const fs::path& folder) {
 }
 
 }  // namespace
-
-std::string configPath() {
-  return below(dataFolder(), kFileName);
-}
-
-std::string tempFolder() {
-  const std::string folder = dataFolder();
-  return folder.empty() ? folder : withBackslash(below(folder, "tmp"));
-}
 
 void setDefaults() {
   resetMonitorRecords();

@@ -29,9 +29,4 @@ bool writeConfig();
 /// `fileList`, a CR LF ended line each, up to the first empty line. Failures are not reported.
 void clearTempFiles(bool all, std::string_view fileList);
 
-/// Full name of the configuration file and the folder of temporary files (with a separator at its
-/// end); the folders above are made. Empty when the platform has no data folder.
-std::string configPath();
-std::string tempFolder();
-
 }  // namespace vk

@@ -6,8 +6,8 @@
 #include <tuple>
 
 #include "base/clsDesktop.h"
-#include "base/clsFlagGuard.h"
 #include "base/mdlGeneral.h"
+#include "base/mdlGuard.h"
 #include "base/mdlMessages.h"
 #include "link/mdlUSBCommand.h"
 #include "monitors/mdlMonitorCycle.h"

@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "base/clsDesktop.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
 
 namespace vk {

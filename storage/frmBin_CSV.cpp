@@ -10,8 +10,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "base/clsFlagGuard.h"
 #include "base/mdlGeneral.h"
+#include "base/mdlGuard.h"
 #include "desktop/qtText.h"
 #include "storage/frmFormParts.h"
 #include "storage/frmSelectFolder.h"

@@ -10,13 +10,13 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include "base/clsFlagGuard.h"
+#include "base/mdlDataFolder.h"
 #include "base/mdlGeneral.h"
+#include "base/mdlGuard.h"
 #include "base/mdlText.h"
+#include "desktop/frmStatusBar.h"
 #include "desktop/qtText.h"
-#include "link/mdlBoxTable.h"
-#include "shell/frmStatusBar.h"
-#include "shell/mdlConfig.h"
+#include "recorder/mdlBoxTable.h"
 #include "storage/frmSelectFolder.h"
 #include "storage/frmSetFileSer.h"
 #include "storage/mdlFolderList.h"

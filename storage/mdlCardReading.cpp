@@ -5,8 +5,8 @@
 #include <limits>
 
 #include "base/clsDesktop.h"
-#include "base/clsFlagGuard.h"
 #include "base/mdlGeneral.h"
+#include "base/mdlGuard.h"
 #include "base/mdlText.h"
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"

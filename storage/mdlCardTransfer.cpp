@@ -4,9 +4,9 @@
 #include <memory>
 
 #include "base/clsDesktop.h"
-#include "base/clsFlagGuard.h"
 #include "base/mdlFile.h"
 #include "base/mdlGeneral.h"
+#include "base/mdlGuard.h"
 #include "base/mdlText.h"
 #include "link/mdlUSBCommand.h"
 #include "storage/mdlCardReading.h"
@@ -32,9 +32,9 @@ std::string clockStem(const DateTime& time) {
          two(time.hour) + "_" + two(time.minute) + "_" + two(time.second);
 }
 
-class clsTransfer {
+class Transfer {
  public:
-  clsTransfer(CardReading& reading, ReadKind kind, std::size_t row)
+  Transfer(CardReading& reading, ReadKind kind, std::size_t row)
       : reading_(reading), kind_(kind), file_(reading.files[row]) {}
 
   int32_t run() {
@@ -85,11 +85,11 @@ class clsTransfer {
   const ReadKind kind_;
   const CardEntry file_;
   std::string target_;
-  clsFileWriter data_;
+  FileWriter data_;
   int32_t percentShown_ = -1;
 };
 
-bool clsTransfer::start() {
+bool Transfer::start() {
   if (!yield()) return false;
   percent(0);
   if (!yield()) return false;
@@ -97,7 +97,7 @@ bool clsTransfer::start() {
   return yield();
 }
 
-bool clsTransfer::fetchHeader() {
+bool Transfer::fetchHeader() {
   if (readHeader(reading_.serial, file_.cardFileName + ".HED", file_.headerSize,
                  reading_.headerText, reading_.header) == kCardOk) {
     return true;
@@ -106,7 +106,7 @@ bool clsTransfer::fetchHeader() {
   return false;
 }
 
-bool clsTransfer::chooseTarget() {
+bool Transfer::chooseTarget() {
   if (kind_ == kReadToSave) {
     const std::string stem = withoutExtension(file_.saveFileName);
     target_ = withBackslash(reading_.folder[0]) + stem;
@@ -119,7 +119,7 @@ bool clsTransfer::chooseTarget() {
   return true;
 }
 
-bool clsTransfer::fetchData() {
+bool Transfer::fetchData() {
   if (!chooseTarget() || !fileDone(data_.open(dataPath()), dataPath())) return false;
   if (usbDAT(reading_.serial, file_.cardFileName) != kUsbOk) {
     showBox("Data File Error", "Cannot read Data file.");
@@ -132,7 +132,7 @@ bool clsTransfer::fetchData() {
   return true;
 }
 
-bool clsTransfer::fetchBlocks(Block& block) {
+bool Transfer::fetchBlocks(Block& block) {
   const int64_t blocks = file_.size / kBlockBytes;
   for (int64_t i = 0; i < blocks; ++i) {
     if (usbReadBlock(reading_.serial, block.bytes.data(), kBlockBytes) < 1) {
@@ -145,7 +145,7 @@ bool clsTransfer::fetchBlocks(Block& block) {
   return true;
 }
 
-bool clsTransfer::fetchTail(Block& block) {
+bool Transfer::fetchTail(Block& block) {
   const int64_t rest = file_.size % kBlockBytes;
   if (rest <= 0) return true;
   const int64_t asked = (rest + kTransferUnit - 1) / kTransferUnit * kTransferUnit;
@@ -157,14 +157,14 @@ bool clsTransfer::fetchTail(Block& block) {
 }
 
 /// What came of a broken transfer stays under its name.
-bool clsTransfer::keepPartialData() {
+bool Transfer::keepPartialData() {
   // Saving asks the user how to go on; the wave view has the label only.
   if (kind_ == kReadToView) message("Communication Error has occurred.");
   if (!desktop().ending()) static_cast<void>(fileDone(data_.commit(), dataPath()));
   return false;
 }
 
-bool clsTransfer::writeHeader() {
+bool Transfer::writeHeader() {
   std::string text = reading_.headerText;
   if (kind_ == kReadToSave) {
     // The column is empty when the header could not be read at opening: nothing was edited then.
@@ -186,7 +186,7 @@ bool clsTransfer::writeHeader() {
 int32_t readDataFile(CardReading& reading, ReadKind kind, std::size_t row) {
   if (row >= reading.files.size() || reading.busy) return kCardFailed;
   const FlagGuard busy(reading.busy);
-  return clsTransfer(reading, kind, row).run();
+  return Transfer(reading, kind, row).run();
 }
 
 int32_t readForWaveView(CardReading& reading, std::size_t row) {

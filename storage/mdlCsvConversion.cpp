@@ -13,12 +13,12 @@
 #include <utility>
 
 #include "base/clsDesktop.h"
-#include "base/clsFlagGuard.h"
 #include "base/mdlFile.h"
 #include "base/mdlGeneral.h"
+#include "base/mdlGuard.h"
 #include "base/mdlText.h"
-#include "storage/clsSampleStream.h"
 #include "storage/mdlFileBox.h"
+#include "storage/mdlSampleStream.h"
 #include "storage/mdlWaveData.h"
 
 namespace vk {
@@ -47,9 +47,9 @@ bool isTaken(const std::string& path) {
 }
 
 /// Collects what goes to a file, so that the system gets whole aligned pages.
-class clsOutput {
+class Output {
  public:
-  explicit clsOutput(std::size_t room)
+  explicit Output(std::size_t room)
       : bytes_(static_cast<char*>(::operator new[](kBlock + room, kAlignment))) {}
 
   [[nodiscard]] int32_t open(const std::string& path) {
@@ -91,13 +91,13 @@ class clsOutput {
   };
   std::unique_ptr<char[], Free> bytes_;
   char* end_ = nullptr;
-  clsFileWriter writer_;
+  FileWriter writer_;
 };
 
-class clsConversion {
+class Conversion {
  public:
   /// Throws TypeMismatch when the header holds something that cannot be used.
-  clsConversion(const CsvJob& job, const CsvView& view)
+  Conversion(const CsvJob& job, const CsvView& view)
       : job_(job),
         view_(view),
         samples_(toWhole(job.header[kNumSamps])),
@@ -160,9 +160,9 @@ class clsConversion {
   const CsvView& view_;
   const int64_t samples_;
   const int64_t count_;
-  clsCsvLines lines_;
-  clsOutput output_;
-  clsSampleStream source_;
+  CsvLines lines_;
+  Output output_;
+  SampleStream source_;
   std::array<int32_t, kMarks> marks_{};
   std::size_t raised_ = 0;
   int64_t lastRaised_ = -1;
@@ -177,14 +177,14 @@ class clsConversion {
   int64_t lastYield_ = 0;
 };
 
-std::string clsConversion::headOfFile() const {
+std::string Conversion::headOfFile() const {
   if (number_ == 0) return csvHead(job_.header, 0, samples_ - 1);
   // The first file always says a whole one, even where the recording is shorter.
   const int64_t held = number_ == 1 ? count_ : std::min(count_, samples_ - sample_);
   return csvHead(csvPartHeader(job_.header, name_, held), sample_, sample_ + held - 1);
 }
 
-bool clsConversion::beginFile(int32_t number, bool ask) {
+bool Conversion::beginFile(int32_t number, bool ask) {
   number_ = number;
   if (number > 0) fileEnd_ = number * count_;
   name_ = csvFileName(job_.stem, number);
@@ -199,7 +199,7 @@ bool clsConversion::beginFile(int32_t number, bool ask) {
   return fileDone(output_.open(path_), path_) && fileDone(output_.write(head), path_);
 }
 
-bool clsConversion::endFile() {
+bool Conversion::endFile() {
   // Two flushes for each of thousands of new parts would take longer than all the rest.
   const bool flush = number_ == 0 || replaces_;
   if (!fileDone(output_.commit(flush), path_)) return false;
@@ -208,7 +208,7 @@ bool clsConversion::endFile() {
   return true;
 }
 
-bool clsConversion::writeLines(int64_t stop) {
+bool Conversion::writeLines(int64_t stop) {
   while (sample_ < stop) {
     if (!fileDone(source_.more(), job_.source)) return false;
     const auto wanted = std::min(source_.count(), static_cast<std::size_t>(stop - sample_));
@@ -221,7 +221,7 @@ bool clsConversion::writeLines(int64_t stop) {
   return true;
 }
 
-bool clsConversion::raiseMark() {
+bool Conversion::raiseMark() {
   lastRaised_ = sample_ - 1;
   const auto percent = static_cast<int>(++raised_) * 100 / kMarks;
   if (view_.setPercent) view_.setPercent(percent);
@@ -259,7 +259,7 @@ void showBadHeader() {
 
 int32_t convertRecording(const CsvJob& job, const CsvView& view) {
   try {
-    return clsConversion(job, view).run();
+    return Conversion(job, view).run();
   } catch (const TypeMismatch&) {
     showBadHeader();
   } catch (const std::bad_alloc&) {

@@ -84,7 +84,7 @@ std::vector<float> slopesOf(const HeaderRecord& header) {
   return slopes;
 }
 
-clsCsvLines::clsCsvLines(std::span<const float> slopes, bool scaled) : scaled_(scaled) {
+CsvLines::CsvLines(std::span<const float> slopes, bool scaled) : scaled_(scaled) {
   const auto bitsOf = [scaled](float slope) { return scaled ? std::bit_cast<uint32_t>(slope) : 0; };
   for (const float slope : slopes) {
     // Series of one slope share their texts, which keeps more of them in the processor's cache.
@@ -101,12 +101,12 @@ clsCsvLines::clsCsvLines(std::span<const float> slopes, bool scaled) : scaled_(s
   }
 }
 
-std::size_t clsCsvLines::lineRoom() const {
+std::size_t CsvLines::lineRoom() const {
   // A cell is copied whole, so the last one may reach behind its text.
   return sizeof(LineNumber::front) + (series_.size() + 1) * sizeof(Cell) + kLineEnd.size();
 }
 
-void clsCsvLines::LineNumber::countUp() {
+void CsvLines::LineNumber::countUp() {
   if (++last < 10) return;
   last = 0;
   std::size_t i = frontLength;
@@ -121,7 +121,7 @@ void clsCsvLines::LineNumber::countUp() {
   ++frontLength;
 }
 
-void clsCsvLines::fill(Cell& cell, uint16_t word, float slope) const {
+void CsvLines::fill(Cell& cell, uint16_t word, float slope) const {
   const auto raw = static_cast<int16_t>(word);
   const float value = scaled_ ? sampleValue(raw, slope) : 0;
   if (!std::isfinite(value)) throw TypeMismatch(textOf(slope));
@@ -133,8 +133,8 @@ void clsCsvLines::fill(Cell& cell, uint16_t word, float slope) const {
   cell.length = static_cast<unsigned char>(length + 1);
 }
 
-clsCsvLines::Written clsCsvLines::write(char* out, const char* limit, const unsigned char* frames,
-                                        std::size_t count) {
+CsvLines::Written CsvLines::write(char* out, const char* limit, const unsigned char* frames,
+                                  std::size_t count) {
   const unsigned char* next = frames;
   std::size_t lines = 0;
   LineNumber number = number_;

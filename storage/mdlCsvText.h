@@ -41,10 +41,10 @@ std::vector<float> slopesOf(const HeaderRecord& header);
 
 /// Writes sample lines into memory. A raw sample has 65536 values only, so each series keeps the
 /// text of every value that it has met and copies it from then on.
-class clsCsvLines {
+class CsvLines {
  public:
   /// Unscaled lines hold the raw numbers; of the slopes then only their count matters.
-  clsCsvLines(std::span<const float> slopes, bool scaled);
+  CsvLines(std::span<const float> slopes, bool scaled);
 
   /// The longest line.
   std::size_t lineRoom() const;

@@ -12,11 +12,6 @@ namespace vk {
 
 namespace fs = std::filesystem;
 
-void showBox(const char* title, const std::string& text) {
-  if (desktop().ending()) return;
-  desktop().messageBox(title, text, BoxButtons::kOk, BoxIcon::kExclamation);
-}
-
 bool fileDone(int32_t error, const std::string& path) {
   if (error == kFileOk) return true;
   showBox("File Error", path + "\r\n" + fileErrorText(error));

@@ -7,10 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "base/mdlBox.h"
+
 namespace vk {
 
-/// A box with OK; none while the program ends.
-void showBox(const char* title, const std::string& text);
 /// True for success; a failure is shown with the file's name.
 bool fileDone(int32_t error, const std::string& path);
 /// A name from a broken card directory could lead out of the chosen folder.

@@ -3,7 +3,7 @@
 
 #include "base/mdlGeneral.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
+#include "recorder/mdlCodeTables.h"
 
 namespace vk {
 
@@ -67,14 +67,6 @@ std::string joinLines(const HeaderRecord& record, char separator) {
 }
 
 }  // namespace
-
-std::string headerValue(std::string_view text, std::string_view key) {
-  const std::size_t start = text.find(key);
-  if (start == std::string_view::npos) return {};
-  const std::size_t end = text.find(kLineEnd, start);
-  if (end == std::string_view::npos) throw TypeMismatch(text.substr(start));
-  return trim(text.substr(start + key.size(), end - start - key.size()));
-}
 
 int32_t checkHeaderText(std::string_view text) {
   HeaderField checked = kVersion;

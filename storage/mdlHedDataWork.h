@@ -36,9 +36,6 @@ struct HeaderRecord {
   bool operator==(const HeaderRecord&) const = default;
 };
 
-/// The value behind the first occurrence of the key, up to the next CR LF, trimmed; empty when the
-/// key does not occur. Without a CR LF behind it the value cannot be read: TypeMismatch.
-std::string headerValue(std::string_view text, std::string_view key);
 /// 0, or the negative number of the first check that fails (-2 VERSION ... -15 NUM_SAMPS).
 [[nodiscard]] int32_t checkHeaderText(std::string_view text);
 /// Returns 0; a value that cannot be read gives its check number and leaves the rest empty.

@@ -180,7 +180,7 @@ TEST_F(File, FullDiskLeavesTheOldFileWhole) {
 
 TEST_F(File, AnErrorSticksToTheWriter) {
   put("A.dat", "old");
-  vk::clsFileWriter writer;
+  vk::FileWriter writer;
   ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
   const auto unlimited = limitFiles(100);
   EXPECT_EQ(writer.write(std::string(60, 'a')), vk::kFileOk);
@@ -199,7 +199,7 @@ TEST_F(File, AnErrorSticksToTheWriter) {
 }
 
 TEST_F(File, NothingStandsUnderTheNameWithoutACommit) {
-  vk::clsFileWriter writer;
+  vk::FileWriter writer;
   EXPECT_EQ(writer.write("x"), vk::kFileOther);
   EXPECT_EQ(writer.commit(), vk::kFileOther);
 
@@ -211,7 +211,7 @@ TEST_F(File, NothingStandsUnderTheNameWithoutACommit) {
   EXPECT_FALSE(writer.isOpen());
   EXPECT_EQ(writer.commit(), vk::kFileOther);
   {
-    vk::clsFileWriter other;
+    vk::FileWriter other;
     ASSERT_EQ(other.open(folder_ / "A.dat"), vk::kFileOk);
     EXPECT_EQ(other.write("new"), vk::kFileOk);
     ASSERT_EQ(other.open(folder_ / "B.dat"), vk::kFileOk);
@@ -231,7 +231,7 @@ TEST_F(File, NothingStandsUnderTheNameWithoutACommit) {
 }
 
 TEST_F(File, AFlushMayComeLater) {
-  vk::clsFileWriter writer;
+  vk::FileWriter writer;
   EXPECT_EQ(writer.commitUnflushed(), vk::kFileOther);
   ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
   EXPECT_EQ(writer.write("whole"), vk::kFileOk);
@@ -241,7 +241,7 @@ TEST_F(File, AFlushMayComeLater) {
 }
 
 TEST_F(File, TwoWritersOfOneTargetDoNotMix) {
-  vk::clsFileWriter first, second;
+  vk::FileWriter first, second;
   ASSERT_EQ(first.open(folder_ / "A.dat") + second.open(folder_ / "A.dat"), 0);
   EXPECT_EQ(first.write("first") + second.write("second, longer"), 0);
   EXPECT_EQ(second.commit(), vk::kFileOk);
@@ -250,7 +250,7 @@ TEST_F(File, TwoWritersOfOneTargetDoNotMix) {
 }
 
 TEST_F(File, TargetThatBecomesAFolderMeanwhile) {
-  vk::clsFileWriter writer;
+  vk::FileWriter writer;
   ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
   fs::create_directory(folder_ / "A.dat");
   EXPECT_EQ(writer.commit(), vk::kFileOther);

@@ -8,9 +8,9 @@
 #include <string>
 
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "conditions/mdlSetDataWork.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
+#include "recorder/mdlSetDataWork.h"
 #include "tests/support/dialog_controls.h"
 #include "tests/support/text_table.h"
 

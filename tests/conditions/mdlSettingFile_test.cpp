@@ -10,9 +10,9 @@
 
 #include "base/mdlGeneral.h"
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "conditions/mdlConditionRules.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
+#include "recorder/mdlCodeTables.h"
+#include "recorder/mdlConditionRules.h"
 #include "storage/mdlHedDataWork.h"
 #include "tests/support/data_folder.h"
 #include "tests/support/dialog_controls.h"

@@ -13,7 +13,18 @@ files=$(git ls-files 2>/dev/null)
 [ -n "$files" ] || files=$(find . -path ./build -prune -o -path ./demo-output -prune -o \
   -path ./.git -prune -o -type f -print | sed 's,^\./,,')
 sources=$(printf '%s\n' "$files" | grep -E '\.(cpp|h)$')
-folders='base|conditions|link|storage|monitors|viewer|maintenance|shell'
+# The floors of the house, bottom first; a folder includes itself and folders of lower floors.
+floors='
+base
+desktop recorder
+link
+conditions storage monitors
+viewer maintenance
+shell
+app
+tour
+'
+folders='base|recorder|link|conditions|storage|monitors|viewer|maintenance|shell'
 logic=$(printf '%s\n' "$sources" | grep -E "^($folders)/(mdl|cls|vk240q)")
 
 # Every logic module has its place, and includes only modules before it.
@@ -32,6 +43,36 @@ for file in $logic; do
   done
 done
 
+# Folders stand on floors, forms included.
+floor_of() { printf '%s\n' "$floors" | grep -nw -- "$1" | cut -d: -f1; }
+for file in $(printf '%s\n' "$sources" | grep -E "^($folders|desktop|app|tour)/"); do
+  own=${file%%/*}
+  for other in $(sed -n 's,^#include "\([a-z]*\)/.*,\1,p' "$file" | sort -u); do
+    [ "$other" = "$own" ] && continue
+    below=$(floor_of "$other")
+    if [ -z "$below" ] || [ "$below" -ge "$(floor_of "$own")" ]; then
+      complain "$file: includes $other/, which is not on a lower floor"
+    fi
+  done
+done
+
+# A file's prefix tells the build its layer, and a test its subject; a test file holds a test.
+for file in $(printf '%s\n' "$sources" | grep -E "^(tests/)?($folders)/[^/]*\.cpp$"); do
+  case ${file##*/} in
+  mdl* | cls* | frm* | mdi*) ;;
+  *) complain "$file: unknown prefix" ;;
+  esac
+done
+for file in $(printf '%s\n' "$sources" | grep -E '_test\.cpp$'); do
+  grep -qE '^(TEST|TEST_F|TEST_P|TYPED_TEST)\(' "$file" || complain "$file: holds no test"
+done
+for file in $(printf '%s\n' "$sources" | grep -E '^tests/.*\.cpp$' | grep -vE '^tests/support/'); do
+  case $file in
+  *_test.cpp) ;;
+  *) complain "$file: a test file ends in _test.cpp" ;;
+  esac
+done
+
 # Logic knows no Qt, also not by an include in angle brackets.
 for file in $logic; do
   grep -nE '#include <(Q[A-Z]|Qt)' "$file" /dev/null && complain "$file: logic includes Qt"
@@ -43,13 +84,12 @@ for file in $sources; do
     complain "$file: umbrella include"
 done
 
-# The simulator and the program share the C interface and nothing else.
-for file in $(printf '%s\n' "$sources" | grep -E '^simulator/'); do
-  grep -nE "#include \"($folders|desktop)/" "$file" | grep -v 'link/vk240q_lib\.h' &&
-    complain "$file: the simulator includes a file of the program"
-done
-for file in $(printf '%s\n' "$sources" | grep -E "^($folders|desktop|app)/" | grep -v '^app/tour'); do
-  grep -nE '#include "simulator/' "$file" /dev/null && complain "$file: knows the simulator"
+# What stands behind the C interface shares it with the program, and nothing else; nor does one
+# instrument library know another. That the program knows none is a matter of floors.
+for file in $(printf '%s\n' "$sources" | grep -E '^instrument/'); do
+  own=$(printf '%s\n' "$file" | cut -d/ -f1-2)
+  grep -n '#include "' "$file" | grep -vE "\"(link/vk240q_lib\.h|$own/)" &&
+    complain "$file: includes a file from outside $own"
 done
 
 # Every source names its licence; no tabs, no blanks at line ends, a line end at the end.

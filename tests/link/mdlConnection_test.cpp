@@ -3,7 +3,7 @@
 
 #include <map>
 
-#include "conditions/mdlSetDataWork.h"
+#include "recorder/mdlSetDataWork.h"
 #include "tests/support/link_fixture.h"
 
 namespace vk {

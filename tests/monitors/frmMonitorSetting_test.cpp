@@ -10,8 +10,8 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "link/mdlBoxTable.h"
 #include "monitors/mdlMonitorCycle.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/window_desktop.h"
 #include "tests/support/window_tools.h"
 
@@ -246,8 +246,7 @@ TEST_F(frmMonitorSettingTest, AnInvalidLimitStandsInTheWayOnlyWhereItCanBeReache
   enter(form, {{"chkCaution", ""}});
   EXPECT_EQ(limit->text().toStdString(), vk::numberText(vk::gNumMoni[1].NUM_CVAL_UP, 0));
   enter(form, {{"chkCaution", ""}});
-  EXPECT_EQ(control<vk::clsColourArea>(form, "picAbnBack")->backColor(),
-            vk::gNumMoni[1].NUM_C_BACK);
+  EXPECT_EQ(control<vk::ColourArea>(form, "picAbnBack")->backColor(), vk::gNumMoni[1].NUM_C_BACK);
   enter(form, {{"chkCaution", ""}});
   set(form);
   EXPECT_TRUE(desk.takeLog().empty() && vk::gNumMoni[1].NUM_C_BACK == 0x010203);
@@ -257,7 +256,7 @@ TEST_F(frmMonitorSettingTest, TheSamplesFollow) {
   vk::gNumMoni[1].NUM_C_BACK = 5;
   auto& form = open(MonitorKind::kNumerical);
   const auto back = [&](const char* name) {
-    return control<vk::clsColourArea>(form, name)->backColor();
+    return control<vk::ColourArea>(form, name)->backColor();
   };
   EXPECT_FALSE(control<QWidget>(form, "cmdColor(2)")->isEnabled());
   EXPECT_FALSE(control<QWidget>(form, "lblUpper")->isEnabled());

@@ -5,7 +5,7 @@
 
 #include <limits>
 
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/recording_picture.h"
 
 namespace vktest {

@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "base/mdlText.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/fake_desktop.h"
 #include "tests/support/text_table.h"
 

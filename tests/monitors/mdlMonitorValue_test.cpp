@@ -7,7 +7,7 @@
 #include <limits>
 
 #include "base/mdlText.h"
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 namespace {

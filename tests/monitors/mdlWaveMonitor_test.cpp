@@ -7,7 +7,7 @@
 #include <limits>
 #include <sstream>
 
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/fake_desktop.h"
 #include "tests/support/recording_picture.h"
 

@@ -6,7 +6,7 @@
 #include <limits>
 #include <sstream>
 
-#include "link/mdlBoxTable.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/recording_picture.h"
 
 namespace vk {

@@ -11,10 +11,10 @@
 #include <string_view>
 #include <vector>
 
-#include "link/mdlBoxTable.h"
 #include "monitors/frmMonitor.h"
 #include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorRecords.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/window_desktop.h"
 #include "tests/support/window_tools.h"
 

@@ -2,20 +2,17 @@
 // Simulated boxes on the bus behind the real windows of start form and main window.
 #pragma once
 
-// Before Qt, whose keyword "signals" is a name in here.
-#include "simulator/library.h"
-#include "tests/simulator/bench.h"
-
-// Keeps the two blocks apart.
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "desktop/qtText.h"
-#include "link/mdlBoxTable.h"
+#include "instrument/simulator/library.h"
 #include "link/mdlConnection.h"
+#include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
 #include "shell/mdlMain.h"
+#include "tests/instrument/simulator/bench.h"
 #include "tests/support/window_desktop.h"
 #include "tests/support/window_tools.h"
 

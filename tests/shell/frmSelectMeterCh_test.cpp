@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "shell/mdlSelectMeter.h"
+#include "recorder/mdlSelectMeter.h"
 
 namespace vktest {
 namespace {

@@ -13,6 +13,7 @@
 
 #include <fmt/format.h>
 
+#include "base/mdlDataFolder.h"
 #include "link/mdlUSBCommand.h"
 #include "storage/mdlTempFiles.h"
 

@@ -15,7 +15,7 @@
 
 #include <vector>
 
-#include "base/clsFlagGuard.h"
+#include "base/mdlGuard.h"
 #include "link/mdlUSBCommand.h"
 #include "monitors/frmMonitor.h"
 #include "monitors/mdlMonitorCycle.h"

@@ -5,11 +5,12 @@
 
 #include <filesystem>
 
+#include "base/mdlDataFolder.h"
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
-#include "link/mdlBoxTable.h"
 #include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorRecords.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/data_folder.h"
 #include "tests/support/fake_desktop.h"
 #include "tests/support/scripted_library.h"

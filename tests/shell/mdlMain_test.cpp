@@ -9,9 +9,9 @@
 
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
 #include "monitors/mdlMonitorRecords.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/data_folder.h"
 #include "tests/support/fake_desktop.h"
 #include "tests/support/fake_monitor.h"

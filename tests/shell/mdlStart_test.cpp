@@ -3,8 +3,8 @@
 
 #include <gmock/gmock.h>
 
-#include "link/mdlBoxTable.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
 #include "tests/support/fake_desktop.h"
 #include "tests/support/scripted_box.h"

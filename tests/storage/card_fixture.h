@@ -8,9 +8,9 @@
 #include <set>
 
 #include "base/mdlGeneral.h"
-#include "link/mdlBoxTable.h"
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlBoxTable.h"
 #include "storage/mdlCardReading.h"
 #include "storage/mdlWaveOpenRequest.h"
 #include "tests/support/data_folder.h"

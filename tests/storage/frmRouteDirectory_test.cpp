@@ -1,9 +1,4 @@
 // SPDX-License-Identifier: MIT
-// Before Qt, whose keyword "signals" is a name in here.
-#include "simulator/library.h"
-#include "tests/simulator/bench.h"
-
-// Keeps the blocks apart.
 #include "storage/frmRouteDirectory.h"
 
 #include <QCheckBox>
@@ -16,13 +11,16 @@
 #include <QRadioButton>
 #include <QTabBar>
 
-#include "link/mdlBoxTable.h"
+#include "base/mdlDataFolder.h"
+#include "instrument/simulator/library.h"
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
 #include "storage/mdlCsvConversion.h"
 #include "storage/mdlTempFiles.h"
 #include "storage/mdlWaveOpenRequest.h"
+#include "tests/instrument/simulator/bench.h"
 #include "tests/storage/card_window.h"
 
 namespace vktest {

@@ -58,7 +58,7 @@ TEST(CsvText, HeadsAndNamesOfTheFiles) {
 TEST(CsvText, EveryRawValueHasItsExactText) {
   const std::vector<float> slopes = {0.5F, 0.0305185F, 1000, 3e-9F, 1e34F, 0.5F};
   for (const bool scaled : {true, false}) {
-    vk::clsCsvLines lines(slopes, scaled);
+    vk::CsvLines lines(slopes, scaled);
     std::vector<unsigned char> frames;
     std::string expected;
     for (int i = 0; i < 65536 + 100; ++i) {
@@ -92,7 +92,7 @@ TEST(CsvText, EveryRawValueHasItsExactText) {
 
 TEST(CsvText, TheLongestValueFitsAndAnInfiniteOneIsRefused) {
   const auto line = [](float slope, unsigned char raw) {
-    vk::clsCsvLines lines(std::vector<float>{slope}, true);
+    vk::CsvLines lines(std::vector<float>{slope}, true);
     const unsigned char frame[] = {raw, 0};
     std::string text(lines.lineRoom(), '~');
     char* const end = lines.write(text.data(), text.data() + 1, frame, 1).end;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/mdlGeneral.h"
 #include "base/mdlText.h"
 
 namespace {

@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "base/mdlText.h"
-#include "conditions/mdlCodeTables.h"
-#include "conditions/mdlConditionRules.h"
 #include "conditions/mdlDialogConditions.h"
-#include "conditions/mdlSetDataWork.h"
+#include "recorder/mdlCodeTables.h"
+#include "recorder/mdlConditionRules.h"
+#include "recorder/mdlSetDataWork.h"
 
 namespace vktest {
 

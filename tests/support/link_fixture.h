@@ -8,9 +8,9 @@
 
 #include <string>
 
-#include "link/mdlBoxTable.h"
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlBoxTable.h"
 #include "tests/support/fake_desktop.h"
 #include "tests/support/scripted_library.h"
 
