@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "base/mdlBox.h"
 #include "base/mdlFile.h"
 #include "base/mdlText.h"
 
@@ -88,10 +89,8 @@ int32_t fileMissing(std::string_view path) {
 }
 
 int32_t askOverwrite(std::string_view path) {
-  const auto answer = desktop().messageBox(
-      "File Process", std::string(path) + "\r\nThis file name is already in use.Overwrite?",
-      BoxButtons::kYesNo, BoxIcon::kExclamation);
-  return answer == BoxAnswer::kNo ? 0 : 1;
+  const auto text = std::string(path) + "\r\nThis file name is already in use.Overwrite?";
+  return unlessNo("File Process", text, BoxIcon::kExclamation) ? 1 : 0;
 }
 
 FileDialogResult fileDialog(FileDialogKind kind, const std::string& title,

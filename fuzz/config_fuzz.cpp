@@ -4,6 +4,7 @@
 // gives the same text again.
 #include <algorithm>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "base/mdlGeneral.h"
@@ -51,7 +52,7 @@ void dropBlanksAtLineEnds() {
 
 void readAndCheck(const std::string& text) {
   vk::setDefaults();
-  (void)vk::readConfigText(text);
+  std::ignore = vk::readConfigText(text);
   require(vk::gMainBox >= 1 && vk::gMainBox <= vk::kBoxes, "the main box is a row", text);
   require(vk::gStatusMode == 0 || vk::gStatusMode == 1, "the status mode is 0 or 1", text);
   require(vk::gStatusContents >= 0 && vk::gStatusContents <= 3, "the contents are 0 to 3", text);

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs the Debian 12 packages that are missing. Every package is listed here and nowhere else.
 #   install-packages.sh        what building, running and testing need
-#   install-packages.sh ci     also what the fuzz run needs
+#   install-packages.sh ci     also what the fuzz run and clang-tidy need
 set -eu
 
 packages="
@@ -11,7 +11,7 @@ packages="
   xvfb xauth openbox xdotool
   fonts-liberation fonts-ipafont-gothic
 "
-[ "${1:-}" = ci ] && packages="$packages clang-14 libclang-rt-14-dev"
+[ "${1:-}" = ci ] && packages="$packages clang-14 libclang-rt-14-dev clang-tidy-14"
 
 missing=
 for package in $packages; do

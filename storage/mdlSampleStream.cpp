@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <tuple>
 
 #include "base/mdlFile.h"
 
@@ -27,7 +28,7 @@ int32_t SampleStream::open(const std::filesystem::path& path, std::size_t frameB
   struct stat status {};
   if (::fstat(descriptor_, &status) != 0) return fileErrorOf(errno);
   if (!S_ISREG(status.st_mode)) return kFileOther;
-  (void)::posix_fadvise(descriptor_, 0, 0, POSIX_FADV_SEQUENTIAL);
+  std::ignore = ::posix_fadvise(descriptor_, 0, 0, POSIX_FADV_SEQUENTIAL);
   return kFileOk;
 }
 

@@ -11,6 +11,7 @@
 #include <initializer_list>
 #include <limits>
 #include <string>
+#include <tuple>
 
 namespace {
 
@@ -182,7 +183,7 @@ TEST(Read, WholeTakesTiesToTheEvenNeighbour) {
   }
   EXPECT_EQ(rounded, "0 2 -2 10 2147483647 -2147483648 ");
   for (const double value : {2147483647.5, -2147483649.0, 1e300, kNan, kInfinity, -kInfinity}) {
-    EXPECT_THROW((void)vk::roundWhole(value), vk::TypeMismatch) << value;
+    EXPECT_THROW(std::ignore = vk::roundWhole(value), vk::TypeMismatch) << value;
   }
 }
 
@@ -203,7 +204,7 @@ TEST(Read, LongTexts) {
       wholes(zeros + "12|1" + std::string(100000, ',') + "|" + std::string(100000, ' ') + "3"),
       "12 1 3");
   try {
-    (void)vk::toWhole("12a" + std::string(1 << 20, 'x'));
+    std::ignore = vk::toWhole("12a" + std::string(1 << 20, 'x'));
     FAIL();
   } catch (const vk::TypeMismatch& mismatch) {
     const std::string what = mismatch.what();
