@@ -88,6 +88,11 @@ int32_t fileMissing(std::string_view path) {
   return findFileAnyCase(fs::path(path)) ? 0 : 1;
 }
 
+std::string presentDefaultFolder() {
+  return folderMissing(gDefaultFolder) != 0 ? desktop().applicationFolder().string()
+                                            : gDefaultFolder;
+}
+
 int32_t askOverwrite(std::string_view path) {
   const auto text = std::string(path) + "\r\nThis file name is already in use.Overwrite?";
   return unlessNo("File Process", text, BoxIcon::kExclamation) ? 1 : 0;
@@ -96,7 +101,7 @@ int32_t askOverwrite(std::string_view path) {
 FileDialogResult fileDialog(FileDialogKind kind, const std::string& title,
                             const std::string& filter) {
   FileDialogResult result;
-  result.path = desktop().fileDialog(kind, title, filter, gDefaultFolder);
+  result.path = desktop().fileDialog(kind, title, filter, presentDefaultFolder());
   const auto separator = result.path.find_last_of("/\\");
   const auto first = separator == std::string::npos ? 0 : separator + 1;
   result.name = result.path.substr(first);

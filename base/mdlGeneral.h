@@ -35,6 +35,8 @@ std::string withBackslash(std::string_view path);
 /// 1 when the folder (file) does not exist, else 0.
 int32_t folderMissing(std::string_view path);
 int32_t fileMissing(std::string_view path);
+/// The default folder, or the program's own where that is missing.
+std::string presentDefaultFolder();
 /// 1 for anything but No.
 int32_t askOverwrite(std::string_view path);
 
@@ -42,7 +44,8 @@ struct FileDialogResult {
   std::string name;  ///< file name, empty after a cancel
   std::string path;  ///< whole path, empty after a cancel
 };
-/// The common file dialog; on success the chosen folder becomes gDefaultFolder.
+/// The common file dialog, which begins in presentDefaultFolder; on success the chosen folder
+/// becomes gDefaultFolder. The name need not be that of a file.
 FileDialogResult fileDialog(FileDialogKind kind, const std::string& title,
                             const std::string& filter);
 

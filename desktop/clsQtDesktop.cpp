@@ -179,7 +179,10 @@ std::string clsQtDesktop::fileDialog(FileDialogKind kind, const std::string& tit
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   const bool save = kind == FileDialogKind::kSave;
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  // A name without its extension has to pass in both directions: who asked for it completes it, and
+  // tells by himself when there is no such file. Dialogs of the desktop would refuse it.
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
   // The program asks its own overwrite question.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};

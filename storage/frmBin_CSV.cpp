@@ -25,7 +25,7 @@ frmBin_CSV::frmBin_CSV(QWidget* parent) : QDialog(parent) {
   buildControls();
   buildLayout();
   csv_.fillDivisions();
-  const QString folder = toQt(shownDefaultFolder());
+  const QString folder = toQt(presentDefaultFolder());
   for (const FolderRow& row : folders_) row.txtFolder->setText(folder);
   fillList();
   connectControls();

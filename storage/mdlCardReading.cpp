@@ -82,9 +82,7 @@ std::vector<int32_t> divisionCounts() {
 }
 
 std::string settleDefaultFolder() {
-  if (folderMissing(gDefaultFolder) != 0) {
-    gDefaultFolder = desktop().applicationFolder().string();
-  }
+  gDefaultFolder = presentDefaultFolder();
   return gDefaultFolder;
 }
 

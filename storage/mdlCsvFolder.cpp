@@ -95,11 +95,6 @@ int32_t convertFile(const CsvFolder& work, const CardEntry& file) {
 
 }  // namespace
 
-std::string shownDefaultFolder() {
-  return folderMissing(gDefaultFolder) == 0 ? gDefaultFolder
-                                            : desktop().applicationFolder().string();
-}
-
 std::vector<CardEntry> recordingsIn(const std::string& folder) {
   std::vector<CardEntry> files;
   const FolderNames names = namesIn(folder);

@@ -20,8 +20,6 @@ struct CsvFolder {
   CsvView view;
 };
 
-/// The default folder, or the program's own when that is missing; the default stays as it is.
-std::string shownDefaultFolder();
 /// Files ending in "dat" or "DAT", by name. One without its header ends the list with a row that
 /// has no header size.
 std::vector<CardEntry> recordingsIn(const std::string& folder);

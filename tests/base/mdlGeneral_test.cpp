@@ -68,7 +68,6 @@ TEST(Paths, WithBackslashAndWhatIsMissing) {
 
 class General : public ::testing::Test {
  protected:
-  General() { vk::gDefaultFolder = "/data/"; }
   ~General() override { vk::gDefaultFolder.clear(); }
 
   vktest::FakeDesktop desktop_;
@@ -85,7 +84,8 @@ TEST_F(General, AskOverwriteIsYesButForNo) {
 }
 
 TEST_F(General, FileDialogKeepsTheFolder) {
-  desktop_.files = {"/other/place/A.set", "", "/A.set", "A.set", "/only/folder/"};
+  vk::gDefaultFolder = "d:\\";  // not there: the dialog begins in the program's own folder
+  desktop_.files = {"/usr/lib/A.set", "", "/gone/A.set", "A.set", "/only/folder/"};
   std::string seen;
   for (const auto kind :
        {vk::FileDialogKind::kSave, vk::FileDialogKind::kOpen, vk::FileDialogKind::kOpen,
@@ -94,11 +94,11 @@ TEST_F(General, FileDialogKeepsTheFolder) {
     seen += desktop_.takeLog() + chosen.name + " " + chosen.path + " " + vk::gDefaultFolder + "\n";
   }
   EXPECT_EQ(seen,
-            "save[Title][Text|*.set|][/data/]\nA.set /other/place/A.set /other/place/\n"
-            "open[Title][Text|*.set|][/other/place/]\n  /other/place/\n"
-            "open[Title][Text|*.set|][/other/place/]\nA.set /A.set /\n"
-            "open[Title][Text|*.set|][/]\nA.set A.set /\n"
-            "open[Title][Text|*.set|][/]\n  /\n");
+            "save[Title][Text|*.set|][/nonexistent]\nA.set /usr/lib/A.set /usr/lib/\n"
+            "open[Title][Text|*.set|][/usr/lib/]\n  /usr/lib/\n"
+            "open[Title][Text|*.set|][/usr/lib/]\nA.set /gone/A.set /gone/\n"
+            "open[Title][Text|*.set|][/nonexistent]\nA.set A.set /gone/\n"
+            "open[Title][Text|*.set|][/nonexistent]\n  /gone/\n");
 }
 
 TEST_F(General, WaitSecondsYieldsUntilTheTimeHasPassed) {

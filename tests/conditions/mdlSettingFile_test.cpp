@@ -292,13 +292,13 @@ TEST_F(SettingFile, Saves) {
   DialogControls controls = controlsOf(MeasureSetting{}, kVk480Q);
   const std::string bytes = buildSettingFileText(controls) + "\r\n";
   EXPECT_FALSE(save(controls, ""));
-  EXPECT_EQ(takeLog(), dialog + "[]|");
+  EXPECT_EQ(takeLog(), dialog + "[/nonexistent]|");
   EXPECT_FALSE(save(controls, inFolder("a.b/plain")));
   EXPECT_EQ(takeLog(),
-            dialog + "[]|box[File Error][Error has occurred.|<>/a.b/plain.set][ok][exclamation]|");
+            dialog + "[/nonexistent]|box[File Error][Error has occurred.|<>/a.b/plain.set][ok][exclamation]|");
   EXPECT_TRUE(save(controls, inFolder("plain")));
   EXPECT_EQ(DataFolder::bytesOf(inFolder("plain.set")), bytes);
-  EXPECT_EQ(takeLog(), dialog + "[<>/a.b/]|");
+  EXPECT_EQ(takeLog(), dialog + "[/nonexistent]|");
   EXPECT_TRUE(save(controls, inFolder("other.txt")));
   EXPECT_EQ(DataFolder::bytesOf(inFolder("other.txt")), bytes);
   takeLog();
@@ -325,10 +325,10 @@ TEST_F(SettingFile, Loads) {
   folder_.put("high.set", kExample);
   folder_.put("low", kOld);
   EXPECT_FALSE(load(kVk240Q, ""));
-  EXPECT_EQ(takeLog(), dialog + "[]|");
+  EXPECT_EQ(takeLog(), dialog + "[/nonexistent]|");
   EXPECT_FALSE(load(kVk240Q, inFolder("none")));
   EXPECT_EQ(takeLog(),
-            dialog + "[]|box[File Error][File does not exist.|<>/none.set][ok][exclamation]|");
+            dialog + "[/nonexistent]|box[File Error][File does not exist.|<>/none.set][ok][exclamation]|");
   EXPECT_EQ(row(), MeasureSetting{});
 
   for (const int32_t model : {kNoModel, int32_t{kVk480Qe}}) {

@@ -3,12 +3,18 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include "desktop/qtText.h"
 #include "tests/support/window_tools.h"
 
 namespace vktest {
@@ -71,7 +77,32 @@ TEST(QtDesktop, ABoxShowsItsTextAsItStands) {
     EXPECT_EQ(box.textFormat(), Qt::PlainText);
     box.close();
   });
-  (void)desk.messageBox("USB Error", "<b>1 & 2</b>", BoxButtons::kOk, BoxIcon::kExclamation);
+  std::ignore =
+      desk.messageBox("USB Error", "<b>1 & 2</b>", BoxButtons::kOk, BoxIcon::kExclamation);
+}
+
+TEST(QtDesktop, AFileDialogTakesAnyNameAndAsksNothing) {
+  vk::clsQtDesktop desk;
+  const QTemporaryDir folder;
+  QFile(folder.filePath("in.set")).open(QIODevice::WriteOnly);
+  const auto typed = [&](vk::FileDialogKind kind, const char* name) {
+    QTimer::singleShot(0, qApp, [name] {
+      auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      auto* field = control<QLineEdit>(*dialog, "fileNameEdit");
+      QTest::keyClicks(field, name);
+      auto* buttons = control<QDialogButtonBox>(*dialog, "buttonBox");
+      EXPECT_TRUE(buttons->buttons().constFirst()->isEnabled());
+      QTest::keyClick(field, Qt::Key_Return);
+      EXPECT_FALSE(dialog->isVisible());
+      if (dialog->isVisible()) dialog->reject();
+    });
+    const std::string path = desk.fileDialog(kind, "Read File", "Setting File (*.set)|*.set|",
+                                             folder.path().toStdString());
+    return vk::fromQt(QDir(folder.path()).relativeFilePath(vk::toQt(path)));
+  };
+  for (const auto kind : {vk::FileDialogKind::kOpen, vk::FileDialogKind::kSave})
+    for (const char* name : {"in", "in.set", "none"}) EXPECT_EQ(typed(kind, name), name);
 }
 
 TEST(QtDesktop, WaitingEndsWithTheTimeOrAnEvent) {
