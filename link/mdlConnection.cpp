@@ -26,7 +26,7 @@ constexpr std::array<const char*, 4> kBanners = {
 using ScanEnd = std::optional<int32_t>;
 
 void addLine(const LogBox& logBox, const std::string& line) {
-  if (logBox.append) logBox.append(line + "\r\n");
+  if (logBox) logBox(line + "\r\n");
 }
 
 void logSerial(const LogBox& logBox, int32_t serial, const std::string& text) {
@@ -146,7 +146,6 @@ void closeLibrary() {
 
 int32_t connectBoxes(bool allowUpgrade, const LogBox& logBox) {
   closeLibrary();
-  if (logBox.clear) logBox.clear();
   const int32_t devices = Vk240qCountDevices();
   if (devices < 1) {
     addLine(logBox, "VK-480Q is not connected.");

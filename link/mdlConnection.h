@@ -15,11 +15,8 @@ enum StartMode : int32_t {
   kStartTooMany = 3,         ///< more than eight boxes
 };
 
-/// Receives the log of a scan. A line comes with its CR LF.
-struct LogBox {
-  std::function<void()> clear;
-  std::function<void(const std::string& line)> append;
-};
+/// Receives the log of a scan line by line, each with its CR LF; an empty one is skipped.
+using LogBox = std::function<void(const std::string& line)>;
 
 /// Leaves the library without an open connection; the next transfer opens it again.
 void closeLibrary();

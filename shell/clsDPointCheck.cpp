@@ -2,6 +2,7 @@
 #include "shell/clsDPointCheck.h"
 
 #include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 
 namespace vk {
 
@@ -24,8 +25,7 @@ void clsDPointCheck::SetLanguage(int32_t language) {
 
 bool clsDPointCheck::Check() const {
   if (desktop().decimalSymbol() == ".") return false;
-  desktop().messageBox(desktop().applicationTitle(), message_, BoxButtons::kOk,
-                       BoxIcon::kExclamation);
+  showBox(desktop().applicationTitle(), message_);
   return true;
 }
 

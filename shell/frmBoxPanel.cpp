@@ -130,8 +130,6 @@ void frmBoxPanel::place(const PanelPlace& place) {
   const bool low = index_ > 0 && place.height < kLowTwips;
   clearLayout();
   for (auto* each : {cmdStart_, cmdStop_, cmdMtrg_}) each->setVisible(!low);
-  low_ = low;
-  showStrip();
   if (low) {
     arrangeLow();
   } else if (index_ == 0) {
@@ -143,12 +141,6 @@ void frmBoxPanel::place(const PanelPlace& place) {
 
 void frmBoxPanel::setContent(const std::string& content) {
   lblSerNumber_->setText(toQt(content));
-  showStrip();
-}
-
-// In a low panel there is no room to say the same twice.
-void frmBoxPanel::showStrip() {
-  shpStatus_->setVisible(!low_ || lblSerNumber_->text() != fraMeterStatus_->text());
 }
 
 void frmBoxPanel::setButtonsEnabled(bool enabled) {
@@ -166,7 +158,6 @@ void frmBoxPanel::setState(const std::optional<Colour>& colour, const std::strin
   imgLED_->setPixmap(lampPixmap(shown, index_ == 0 ? kMainLamp : kLamp, devicePixelRatioF()));
   fraMeterStatus_->setText(toQt(text));
   fraMeterStatus_->setAccessibleName(toQt(text));
-  showStrip();
 }
 
 }  // namespace vk

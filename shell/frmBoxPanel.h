@@ -39,11 +39,9 @@ class frmBoxPanel : public QFrame {
   void arrangeMain();
   void arrangeLow();
   void clearLayout();
-  void showStrip();
 
   int index_;
   Colour colour_ = 0xFFFFFF;
-  bool low_ = false;
   QComboBox* cmbSerNum_ = nullptr;
   QLabel* imgLED_;
   clsElidedLabel* lblSerNumber_;

@@ -41,7 +41,7 @@ frmMsgButton::frmMsgButton(const QString& title, const QString& text, const QStr
 
   timer2_ = named(new QTimer(this), QStringLiteral("Timer2"));
   timer2_->setInterval(kNoticeStepMs);
-  connect(timer2_, &QTimer::timeout, this, &frmMsgButton::tick);
+  connect(timer2_, &QTimer::timeout, this, &frmMsgButton::Timer2_Timer);
   auto* timer1 = named(new QTimer(this), QStringLiteral("Timer1"));
   timer1->setSingleShot(true);
   timer1->setInterval(kNoticeDelayMs);
@@ -50,7 +50,7 @@ frmMsgButton::frmMsgButton(const QString& title, const QString& text, const QStr
   setMinimumWidth(380);
 }
 
-void frmMsgButton::tick() {
+void frmMsgButton::Timer2_Timer() {
   const bool goesOn = left_.tick();
   lblSub2_->setText(toQt(left_.text()));
   if (goesOn) return;

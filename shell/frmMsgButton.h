@@ -20,7 +20,7 @@ class frmMsgButton : public QDialog {
                const QString& button, QWidget* parent = nullptr);
 
  private:
-  void tick();
+  void Timer2_Timer();
 
   NoticeCountdown left_;
   QLabel* lblSub2_;

@@ -37,7 +37,7 @@ frmSelectMeterCh::frmSelectMeterCh(bool check, QWidget* parent) : QDialog(parent
   form->addRow(buttons);
   setMinimumWidth(320);
 
-  connect(cmdRun_, &QPushButton::clicked, this, &frmSelectMeterCh::run);
+  connect(cmdRun_, &QPushButton::clicked, this, &frmSelectMeterCh::cmdRun_Click);
   connect(cmdCancel, &QPushButton::clicked, this, &frmSelectMeterCh::reject);
   connect(cmbMeter_, &QComboBox::currentIndexChanged, this, &frmSelectMeterCh::enableRun);
   connect(cmbChannel_, &QComboBox::currentIndexChanged, this, &frmSelectMeterCh::enableRun);
@@ -50,7 +50,7 @@ void frmSelectMeterCh::enableRun() {
       selectReady(gSelMode, fromQt(cmbMeter_->currentText()), cmbChannel_->currentIndex()));
 }
 
-void frmSelectMeterCh::run() {
+void frmSelectMeterCh::cmdRun_Click() {
   if (acceptSelection(fromQt(cmbMeter_->currentText()), cmbChannel_->currentIndex())) {
     accept();
     return;

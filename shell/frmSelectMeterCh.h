@@ -19,7 +19,7 @@ class frmSelectMeterCh : public QDialog {
   void reject() override;
 
  private:
-  void run();
+  void cmdRun_Click();
   void enableRun();
 
   QComboBox* cmbMeter_;

@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <QWindow>
+#include <iterator>
 
 #include "base/clsDesktop.h"
 #include "base/mdlGuard.h"
@@ -20,25 +21,25 @@
 namespace vk {
 
 LogBox logBoxOf(QPlainTextEdit& box) {
-  return {[&box] { box.clear(); },
-          [&box](const std::string& line) {
-            box.moveCursor(QTextCursor::End);
-            box.insertPlainText(toQt(line).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-            box.ensureCursorVisible();
-            showNow(box);
-          }};
+  box.clear();
+  return [&box](const std::string& line) {
+    box.moveCursor(QTextCursor::End);
+    box.insertPlainText(toQt(line).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    box.ensureCursorVisible();
+    showNow(box);
+  };
 }
 
 frmStart::frmStart() {
   named(this, QStringLiteral("frmStart"));
-  setWindowTitle(QStringLiteral(u"VK-480Q　CONTROLLER - Norvane Keiki Co.,Ltd."));
+  setWindowTitle(tr("VK-480Q　CONTROLLER - Norvane Keiki Co.,Ltd."));
   setWindowIcon(uiIcon(UiIcon::kProgram));
   build();
   tmrDateTime_ = named(new QTimer(this), QStringLiteral("tmrDateTime"));
   tmrDateTime_->setInterval(1000);
-  connect(tmrDateTime_, &QTimer::timeout, this, &frmStart::tick);
-  connect(cmdSet_, &QPushButton::clicked, this, &frmStart::setTimes);
-  connect(cmdOK_, &QPushButton::clicked, this, &frmStart::ok);
+  connect(tmrDateTime_, &QTimer::timeout, this, &frmStart::tmrDateTime_Timer);
+  connect(cmdSet_, &QPushButton::clicked, this, &frmStart::cmdSet_Click);
+  connect(cmdOK_, &QPushButton::clicked, this, &frmStart::cmdOK_Click);
   lblSearch_->setText(tr("Searching for instruments..."));
   cmdOK_->setEnabled(false);
   cmdSet_->setEnabled(false);
@@ -46,7 +47,7 @@ frmStart::frmStart() {
 }
 
 QLayout* frmStart::buildHead() {
-  auto* title = new QLabel(QStringLiteral("VK-480Q CONTROLLER"), this);
+  auto* title = new QLabel(tr("VK-480Q CONTROLLER"), this);
   QFont large = title->font();
   large.setPointSizeF(large.pointSizeF() * 1.6);
   large.setBold(true);
@@ -72,8 +73,8 @@ void frmStart::build() {
   lines->addLayout(buildHead());
 
   lvwCnnt240Q_ = named(new QTreeWidget(this), QStringLiteral("lvwCnnt240Q"), tr("Boxes found"));
-  lvwCnnt240Q_->setHeaderLabels(
-      {QStringLiteral("Ser.No"), QStringLiteral("VK-480Q  Date-Time Setting")});
+  lvwCnnt240Q_->setHeaderLabels({tr("Ser.No"), tr("VK-480Q  Date-Time Setting")});
+  lvwCnnt240Q_->header()->setStretchLastSection(false);
   lvwCnnt240Q_->setColumnWidth(0, toPixels(1900));
   lvwCnnt240Q_->setColumnWidth(1, toPixels(3900));
   lvwCnnt240Q_->setRootIsDecorated(false);
@@ -87,10 +88,10 @@ void frmStart::build() {
   txtComment_->setMinimumHeight(230);
   lines->addWidget(txtComment_, 1);
 
-  cmdSet_ = named(new QPushButton(QStringLiteral("Time Setup"), this), QStringLiteral("cmdSet"));
+  cmdSet_ = named(new QPushButton(tr("Time Setup"), this), QStringLiteral("cmdSet"));
   cmdSet_->setToolTip(tr("Gives the ticked boxes the date and time of this PC"));
   cmdSet_->setAutoDefault(false);
-  cmdOK_ = named(new QPushButton(QStringLiteral("OK"), this), QStringLiteral("cmdOK"));
+  cmdOK_ = named(new QPushButton(tr("OK"), this), QStringLiteral("cmdOK"));
   cmdOK_->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(cmdSet_);
@@ -126,11 +127,10 @@ void frmStart::activate() {
     const FlagGuard guard(searching_);
     repaint();
     desktop().doEvents();
-    desktop().setHourglass(true);
+    const HourglassGuard hourglass;
     clocks = activateStart(logBoxOf(*txtComment_), rows_);
     // What was typed or clicked meanwhile was meant for a form without a result.
     desktop().doEvents();
-    desktop().setHourglass(false);
   }
   showRows();
   switch (rows_.size()) {
@@ -149,7 +149,7 @@ void frmStart::activate() {
   if (clocks) tmrDateTime_->start();
 }
 
-void frmStart::ok() {
+void frmStart::cmdOK_Click() {
   gStartOK = 1;
   // After nine boxes the start mode, not the button, ends the program.
   tmrDateTime_->stop();
@@ -161,33 +161,31 @@ void frmStart::reject() {
   if (!searching_) QDialog::reject();
 }
 
-void frmStart::tick() {
+void frmStart::tmrDateTime_Timer() {
   readChecks();
   if (tickStartClocks(rows_)) showRows();
 }
 
-void frmStart::setTimes() {
+void frmStart::cmdSet_Click() {
   readChecks();
-  desktop().setHourglass(true);
+  const HourglassGuard hourglass;
   setStartClocks(rows_);
-  desktop().setHourglass(false);
   showRows();
 }
 
 void frmStart::readChecks() {
   for (int i = 0; i < lvwCnnt240Q_->topLevelItemCount(); ++i) {
-    rows_[static_cast<std::size_t>(i)].ticked =
-        lvwCnnt240Q_->topLevelItem(i)->checkState(0) == Qt::Checked;
+    rows_[i].ticked = lvwCnnt240Q_->topLevelItem(i)->checkState(0) == Qt::Checked;
   }
 }
 
 void frmStart::showRows() {
-  while (lvwCnnt240Q_->topLevelItemCount() < static_cast<int>(rows_.size())) {
+  while (lvwCnnt240Q_->topLevelItemCount() < ssize(rows_)) {
     auto* item = new QTreeWidgetItem(lvwCnnt240Q_);
     item->setCheckState(0, Qt::Unchecked);
   }
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    auto* item = lvwCnnt240Q_->topLevelItem(static_cast<int>(i));
+  for (int i = 0; i < ssize(rows_); ++i) {
+    auto* item = lvwCnnt240Q_->topLevelItem(i);
     item->setText(0, toQt(rows_[i].serial));
     item->setText(1, toQt(rows_[i].clock));
   }

@@ -32,9 +32,9 @@ class frmStart : public QDialog {
   void awaitExposure();
   void build();
   QLayout* buildHead();
-  void ok();
-  void tick();
-  void setTimes();
+  void cmdOK_Click();
+  void cmdSet_Click();
+  void tmrDateTime_Timer();
   void readChecks();
   void showRows();
 
@@ -50,7 +50,7 @@ class frmStart : public QDialog {
   QTimer* tmrDateTime_;
 };
 
-/// A read-only text box as the log of a scan; every line is visible at once.
+/// A read-only text box, emptied, as the log of a scan; every line is visible at once.
 LogBox logBoxOf(QPlainTextEdit& box);
 
 }  // namespace vk

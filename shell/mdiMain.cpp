@@ -40,13 +40,13 @@ mdiMain::~mdiMain() {
 // --- boxes ----------------------------------------------------------------------------------
 
 void mdiMain::LEDColorChg(int panel, int32_t state) {
-  panel_[static_cast<std::size_t>(panel)]->setState(stateColour(state), stateText(state));
+  panel_[panel]->setState(stateColour(state), stateText(state));
 }
 
 void mdiMain::showBoxPanel(int row, int panel) {
-  const auto& box = gBoxTable[static_cast<std::size_t>(row)];
+  const auto& box = gBoxTable[row];
   const PanelView view = panelView(box, gStatusContents);
-  auto* shown = panel_[static_cast<std::size_t>(panel)];
+  auto* shown = panel_[panel];
   shown->setContent(view.content);
   shown->setButtonsEnabled(view.buttons);
   LEDColorChg(panel, view.state);
@@ -74,7 +74,7 @@ void mdiMain::fillBoxPanels() {
     list->clear();
     for (const auto& text : boxListTexts()) list->addItem(toQt(text));
     list->setCurrentIndex(gMainBox - 1);
-    optStaContents_[static_cast<std::size_t>(gStatusContents)]->setChecked(true);
+    optStaContents_[gStatusContents]->setChecked(true);
     optStaMode_[gStatusMode == 1 ? 1 : 0]->setChecked(true);
   }
   const bool cal = calVisible(gBoxTable);
@@ -95,7 +95,7 @@ void mdiMain::tmrStatus_Timer() {
   if (!pollStatus()) return;
   const auto changed = takeChangedRows();
   for (int row = 1; row <= kBoxes; ++row) {
-    if (changed[static_cast<std::size_t>(row)]) showPanelState(row);
+    if (changed[row]) showPanelState(row);
   }
 }
 
@@ -107,20 +107,20 @@ void mdiMain::panelCommand(PanelCommand command, int panel) {
   desktop().doEvents();
 }
 
-void mdiMain::chooseMainBox(int listIndex) {
+void mdiMain::cmbSerNum_Click(int listIndex) {
   if (filling_ || !selectMainBox(listIndex)) return;
   placePanels();
   showPanelState(gMainBox);
 }
 
-void mdiMain::chooseStatusMode(int mode) {
+void mdiMain::optStaMode_Click(int mode) {
   if (filling_) return;
   gStatusMode = mode;
   placePanels();
   showAllPanels();
 }
 
-void mdiMain::chooseStatusContents(int contents) {
+void mdiMain::optStaContents_Click(int contents) {
   if (filling_) return;
   gStatusContents = contents;
   showAllPanels();
@@ -129,42 +129,44 @@ void mdiMain::chooseStatusContents(int contents) {
 // --- reconnect, counters, end -----------------------------------------------------------------
 
 void mdiMain::Auto_Reconnect() {
-  autoReconnect({[this](bool on) { on ? tmrStatus_->start() : tmrStatus_->stop(); },
-                 logBoxOf(*txtDummy_), [this] { fillBoxPanels(); }});
+  tmrStatus_->stop();
+  if (autoReconnect(logBoxOf(*txtDummy_))) fillBoxPanels();
 }
 
-void mdiMain::mnuCReconnect() {
+void mdiMain::mnuCReconnect_Click() {
   if (!askReconnect()) return;
-  desktop().setHourglass(true);
+  const HourglassGuard hourglass;
   Auto_Reconnect();
-  desktop().setHourglass(false);
 }
 
 // --- monitors ---------------------------------------------------------------------------------
 
 void mdiMain::loadMonitor(MonitorKind kind) {
   // Entering lets events run, which may unload the form.
-  const QPointer<frmMonitor> form = newMonitorForm(kind);
-  form->enter(*area_);
-  if (form && form->parentWidget()) makeRoomFor(form->parentWidget()->geometry());
+  {
+    const FlagGuard loading(loading_);
+    newMonitorForm(kind)->enter(*area_);
+  }
+  QTimer::singleShot(0, this, &mdiMain::makeRoom);
 }
 
-// The frame opens as a strip; its first child window would be cut off.
-void mdiMain::makeRoomFor(const QRect& child) {
-  if (!placed_ || isMaximized() || isFullScreen() || isMinimized()) return;
-  constexpr int kRim = 8;
-  const QRect free = screen()->availableGeometry();
-  const QRect frame = frameGeometry();
-  const auto missing = [](int wanted, int size, int room) {
-    return qBound(0, wanted + kRim - size, qMax(0, room));
-  };
-  const int wider = missing(child.right(), area_->width(), free.width() - frame.width());
-  const int higher = missing(child.bottom(), area_->height(), free.bottom() - frame.bottom());
-  if (wider == 0 && higher == 0) return;
-  // What has no room on the right of the screen is taken on the left.
-  const int left = qMin(frame.left(), free.right() - frame.width() - wider);
-  if (left != frame.left()) move(left, frame.top());
-  resize(width() + wider, height() + higher);
+bool mdiMain::frameIsOurs() const {
+  return strip_ == height() && !isMaximized() && !isFullScreen() && !isMinimized();
+}
+
+// The frame opens as a strip, in which a first child window would be cut off. Windows that open
+// together find their room together: while one of them is being loaded the next is to come.
+void mdiMain::makeRoom() {
+  if (loading_ || !placed_ || !frameIsOurs()) return;
+  int lowest = 0;
+  for (const auto* child : area_->subWindowList()) {
+    if (child->isVisible()) lowest = qMax(lowest, child->geometry().bottom() + 1);
+  }
+  const int more = frameGrowth(
+      {lowest, area_->height(), frameGeometry().bottom(), screen()->availableGeometry().bottom()});
+  if (more == 0) return;
+  strip_ = 0;
+  resize(width(), height() + more);
 }
 
 void mdiMain::arrange(const Arrangement& arrangement) {
@@ -179,16 +181,16 @@ void mdiMain::arrange(const Arrangement& arrangement) {
   const QSize all = area_->viewport()->size();
   const auto places = arrangement(windows, all.width(), all.height());
   for (qsizetype i = 0; i < shown.size(); ++i) {
-    const auto& place = places[static_cast<std::size_t>(i)];
+    const auto& place = places[i];
     shown[i]->setGeometry(place.left, place.top, place.width, place.height);
     shown[i]->raise();
   }
 }
 
 void mdiMain::loseLink() {
-  frmMsgButton notice(QStringLiteral("Communication Error"),
-                      QStringLiteral("Communication Error has occurred.It is reconnected."),
-                      QStringLiteral("Reconnecting.."), QStringLiteral("OK"), this);
+  frmMsgButton notice(tr("Communication Error"),
+                      tr("Communication Error has occurred.It is reconnected."),
+                      tr("Reconnecting.."), tr("OK"), this);
   notice.exec();
   if (desktop().ending()) return;
   Auto_Reconnect();
@@ -201,7 +203,7 @@ std::optional<int32_t> mdiMain::ActiveFormFind() const {
   return activeSerialOfCaption(fromQt(child->windowTitle()));
 }
 
-void mdiMain::clickCounters() {
+void mdiMain::picCommErrorViewCnt_Click() {
   const bool shown = commViewClicks_.click();
   picCommError_->setVisible(shown);
   if (shown) showCounters();
@@ -225,6 +227,16 @@ bool mdiMain::event(QEvent* event) {
     return true;
   }
   return QMainWindow::event(event);
+}
+
+void mdiMain::mnuVShortCut_Click() {
+  gShowShortcut = !gShowShortcut;
+  showBars();
+}
+
+void mdiMain::mnuVStatus_Click() {
+  gShowStatus = !gShowStatus;
+  showBars();
 }
 
 void mdiMain::showBars() {
@@ -264,9 +276,8 @@ void mdiMain::fitFrame() {
   placed_ = true;
   const int frameHeight = frameGeometry().height() - height();
   if (!isMaximized()) resize(width(), toPixels(framePlace(0, 0).height) - frameHeight);
-  for (const auto* child : area_->subWindowList()) {
-    if (child->isVisible()) makeRoomFor(child->geometry());
-  }
+  strip_ = height();
+  makeRoom();
 }
 
 }  // namespace vk

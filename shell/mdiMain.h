@@ -42,6 +42,8 @@ class mdiMain : public QMainWindow {
   std::optional<int32_t> ActiveFormFind() const;
   /// One round of the status cycle.
   void tmrStatus_Timer();
+  /// A hook for what is to happen to all wave windows at once: nothing so far.
+  void WaveFormAllClose() {}
   /// Rebuilds the box list and all panels and starts the status cycle.
   void fillBoxPanels();
   void showBoxPanel(int row, int panel);
@@ -58,8 +60,8 @@ class mdiMain : public QMainWindow {
   /// A menu item; without an action it stands in its place, disabled.
   struct Item {
     const char* name;
-    const char* caption;
-    const char* tip;
+    QString caption;
+    QString tip;
     std::function<void()> action;
   };
   QMenu* addMenu(const char* name, const QString& caption);
@@ -77,19 +79,22 @@ class mdiMain : public QMainWindow {
   void buildTimers();
   void placeFrame();
   void fitFrame();
+  void makeRoom();
+  bool frameIsOurs() const;
 
   void placePanels();
   void showAllPanels();
   void showPanelState(int row);
   void panelCommand(PanelCommand command, int panel);
-  void chooseMainBox(int listIndex);
-  void chooseStatusMode(int mode);
-  void chooseStatusContents(int contents);
+  void mnuVShortCut_Click();
+  void mnuVStatus_Click();
+  void cmbSerNum_Click(int listIndex);
+  void optStaMode_Click(int mode);
+  void optStaContents_Click(int contents);
   void showBars();
-  void clickCounters();
+  void picCommErrorViewCnt_Click();
 
   void loadMonitor(MonitorKind kind);
-  void makeRoomFor(const QRect& child);
   using Arrangement =
       std::function<std::vector<TilePlace>(const std::vector<TilePlace>&, int width, int height)>;
   void arrange(const Arrangement& arrangement);
@@ -98,16 +103,16 @@ class mdiMain : public QMainWindow {
   bool selectBox(int32_t mode, bool check = false);
   template <typename Dialog>
   void openOnBox(int32_t mode);
-  void mnuFMeterRead();
-  void mnuFCSVChange();
-  void mnuEMeasureSet();
-  void mnuEMonitorSet();
-  void mnuETimeSet();
-  void mnuCBalance();
-  void mnuCCAL();
-  void mnuCSetList();
-  void mnuCCFinit();
-  void mnuCReconnect();
+  void mnuFMeterRead_Click();
+  void mnuFCSVChange_Click();
+  void mnuEMeasureSet_Click();
+  void mnuEMonitorSet_Click();
+  void mnuETimeSet_Click();
+  void mnuCBalance_Click();
+  void mnuCCAL_Click();
+  void mnuCSetList_Click();
+  void mnuCCFinit_Click();
+  void mnuCReconnect_Click();
 
   QWidget* picShtCut_;
   QMdiArea* area_;
@@ -127,6 +132,8 @@ class mdiMain : public QMainWindow {
   QAction* mnuVStatus_ = nullptr;
   CounterClicks commViewClicks_;
   bool placed_ = false;
+  int strip_ = 0;  ///< height of the frame as it was opened; 0 once it has made room
+  bool loading_ = false;
   bool filling_ = false;
   bool commanding_ = false;
 };

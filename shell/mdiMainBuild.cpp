@@ -45,7 +45,7 @@ QPlainTextEdit* hiddenText(QWidget* parent, const char* name) {
 
 mdiMain::mdiMain() {
   named(this, QStringLiteral("mdiMain"));
-  setWindowTitle(QStringLiteral("VK-480Q CONTROLLER"));
+  setWindowTitle(tr("VK-480Q CONTROLLER"));
   setWindowIcon(uiIcon(UiIcon::kProgram));
 
   auto* body = new QWidget(this);
@@ -83,12 +83,11 @@ QMenu* mdiMain::addMenu(const char* name, const QString& caption) {
 }
 
 QAction* mdiMain::addItem(QMenu* menu, const Item& item) {
-  auto* action =
-      named(menu->addAction(QString::fromUtf8(item.caption)), QString::fromLatin1(item.name));
-  action->setStatusTip(QString::fromUtf8(item.tip));
+  auto* action = named(menu->addAction(item.caption), QString::fromLatin1(item.name));
+  action->setStatusTip(item.tip);
   // A switched-off item tells no status tip; its tool tip shows all the same.
-  if (!item.action) action->setToolTip(QString::fromUtf8(item.tip));
-  action->setEnabled(static_cast<bool>(item.action));
+  if (!item.action) action->setToolTip(item.tip);
+  action->setEnabled(item.action != nullptr);
   if (item.action) connect(action, &QAction::triggered, this, item.action);
   return action;
 }
@@ -103,80 +102,80 @@ void mdiMain::buildMenus() {
 void mdiMain::buildFileMenu() {
   auto* menu = addMenu("mnuFile", tr("&File"));
   addItem(menu, {"mnuFDataFileLoad",
-                 "&Open data file",
-                 "Opens stored recordings as waves (not in this version yet)",
+                 tr("&Open data file"),
+                 tr("Opens stored recordings as waves (not in this version yet)"),
                  {}});
-  addItem(menu, {"mnuFCSVChange", "Data file &CSV conversion",
-                 "Turns stored recordings into CSV files", [this] { mnuFCSVChange(); }});
-  addItem(menu,
-          {"mnuFMeterRead", "&Read data from VK-480Q",
-           "Lists the recordings on a box's card and saves them", [this] { mnuFMeterRead(); }});
+  addItem(menu, {"mnuFCSVChange", tr("Data file &CSV conversion"),
+                 tr("Turns stored recordings into CSV files"), [this] { mnuFCSVChange_Click(); }});
+  addItem(menu, {"mnuFMeterRead", tr("&Read data from VK-480Q"),
+                 tr("Lists the recordings on a box's card and saves them"),
+                 [this] { mnuFMeterRead_Click(); }});
   menu->addSeparator();
-  addItem(menu,
-          {"mnuFEND", "E&xit VK-480Q CONTROLLER",
-           "Saves the settings and ends the program; boxes go on recording", [this] { close(); }})
+  addItem(menu, {"mnuFEND", tr("E&xit VK-480Q CONTROLLER"),
+                 tr("Saves the settings and ends the program; boxes go on recording"),
+                 [this] { close(); }})
       ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 
 void mdiMain::buildSettingsMenu() {
   auto* menu = addMenu("mnuEdit", tr("&Settings"));
-  addItem(menu,
-          {"mnuEMeasureSet", "&Measurement condition setting",
-           "Sets channels, ranges, sampling and trigger of a box", [this] { mnuEMeasureSet(); }});
-  addItem(menu, {"mnuEMonitorSet", "M&onitor setting", "Chooses which live monitors are shown",
-                 [this] { mnuEMonitorSet(); }});
-  addItem(menu, {"mnuETimeSet", "Date-&Time setting", "Sets the clock of a box",
-                 [this] { mnuETimeSet(); }});
+  addItem(menu, {"mnuEMeasureSet", tr("&Measurement condition setting"),
+                 tr("Sets channels, ranges, sampling and trigger of a box"),
+                 [this] { mnuEMeasureSet_Click(); }});
+  addItem(menu, {"mnuEMonitorSet", tr("M&onitor setting"),
+                 tr("Chooses which live monitors are shown"), [this] { mnuEMonitorSet_Click(); }});
+  addItem(menu, {"mnuETimeSet", tr("Date-&Time setting"), tr("Sets the clock of a box"),
+                 [this] { mnuETimeSet_Click(); }});
 }
 
 void mdiMain::buildViewMenus() {
   auto* window = addMenu("mnuWindow", tr("&Window"));
   const auto tile = [](Tiling tiling) {
     return [tiling](const std::vector<TilePlace>& windows, int width, int height) {
-      return tilePlaces(tiling, static_cast<int>(windows.size()), width, height);
+      return tilePlaces(tiling, ssize(windows), width, height);
     };
   };
-  addItem(window, {"mnuWHorizontal", "&Horizontal", "Arranges the child windows one below another",
-                   [=, this] { arrange(tile(Tiling::kHorizontal)); }});
-  addItem(window, {"mnuWVertical", "&Vertical", "Arranges the child windows side by side",
+  addItem(window,
+          {"mnuWHorizontal", tr("&Horizontal"), tr("Arranges the child windows one below another"),
+           [=, this] { arrange(tile(Tiling::kHorizontal)); }});
+  addItem(window, {"mnuWVertical", tr("&Vertical"), tr("Arranges the child windows side by side"),
                    [=, this] { arrange(tile(Tiling::kVertical)); }});
-  addItem(window, {"mnuVCascade", "&Cascade", "Arranges the child windows overlapping",
+  addItem(window, {"mnuVCascade", tr("&Cascade"), tr("Arranges the child windows overlapping"),
                    [this] { arrange(cascadePlaces); }});
 
   auto* view = addMenu("mnuView", tr("&View"));
   mnuVShortCut_ =
-      addItem(view, {"mnuVShortCut", "Short cut", "Shows or hides the short cut bar", [this] {
-                       gShowShortcut = !gShowShortcut;
-                       showBars();
-                     }});
+      addItem(view, {"mnuVShortCut", tr("Short cut"), tr("Shows or hides the short cut bar"),
+                     [this] { mnuVShortCut_Click(); }});
   mnuVStatus_ =
-      addItem(view, {"mnuVStatus", "Status", "Shows or hides the bar with the boxes", [this] {
-                       gShowStatus = !gShowStatus;
-                       showBars();
-                     }});
+      addItem(view, {"mnuVStatus", tr("Status"), tr("Shows or hides the bar with the boxes"),
+                     [this] { mnuVStatus_Click(); }});
   mnuVShortCut_->setCheckable(true);
   mnuVStatus_->setCheckable(true);
 }
 
 void mdiMain::buildEtcMenu() {
   auto* menu = addMenu("mnuEtc", tr("&Control"));
-  addItem(menu, {"mnuCBalance", "&Balance", "Zeroes the bridges of one box or all",
-                 [this] { mnuCBalance(); }});
-  mnuCCAL_ = addItem(menu, {"mnuCCAL", "&Calibration", "Switches the calibration output of a box",
-                            [this] { mnuCCAL(); }});
-  addItem(menu,
-          {"mnuCOpen", "C&heck", "Runs the self checks of a box (not in this version yet)", {}});
-  addItem(menu, {"mnuCSetList", "&Setting /Conditions list", "Lists the conditions of a box",
-                 [this] { mnuCSetList(); }});
-  addItem(menu, {"mnuCCFinit", "&Initializing CF card", "Formats the card in a box",
-                 [this] { mnuCCFinit(); }});
+  addItem(menu, {"mnuCBalance", tr("&Balance"), tr("Zeroes the bridges of one box or all"),
+                 [this] { mnuCBalance_Click(); }});
+  mnuCCAL_ =
+      addItem(menu, {"mnuCCAL", tr("&Calibration"), tr("Switches the calibration output of a box"),
+                     [this] { mnuCCAL_Click(); }});
+  addItem(menu, {"mnuCOpen",
+                 tr("C&heck"),
+                 tr("Runs the self checks of a box (not in this version yet)"),
+                 {}});
+  addItem(menu, {"mnuCSetList", tr("&Setting /Conditions list"),
+                 tr("Lists the conditions of a box"), [this] { mnuCSetList_Click(); }});
+  addItem(menu, {"mnuCCFinit", tr("&Initializing CF card"), tr("Formats the card in a box"),
+                 [this] { mnuCCFinit_Click(); }});
   menu->addSeparator();
-  addItem(menu, {"mnuCReconnect", "&Re-connect", "Searches the bus for boxes again",
-                 [this] { mnuCReconnect(); }})
+  addItem(menu, {"mnuCReconnect", tr("&Re-connect"), tr("Searches the bus for boxes again"),
+                 [this] { mnuCReconnect_Click(); }})
       ->setShortcut(QKeySequence(Qt::Key_F5));
   addItem(menu, {"mnuCVersion",
-                 "&About VK-480Q CONTROLLER",
-                 "Shows the versions of the program and the boxes (not in this version yet)",
+                 tr("&About VK-480Q CONTROLLER"),
+                 tr("Shows the versions of the program and the boxes (not in this version yet)"),
                  {}});
 }
 
@@ -191,12 +190,11 @@ void mdiMain::buildShortcutBar() {
       UiIcon::kList,     UiIcon::kCardInit, UiIcon::kReconnect};
   picShtCut_->setFixedHeight(kShortcutHeight);
   for (int i = 0; i < kShortcuts; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    auto* action = findChild<QAction*>(QLatin1String(kItems[at]));
+    auto* action = findChild<QAction*>(QLatin1String(kItems[i]));
     auto* button = new QToolButton(picShtCut_);
     named(button, elementName("cmdShtCut", i), action->text().remove(QLatin1Char('&')));
     button->setText(toQt(shortcutText(i)));
-    button->setIcon(uiIcon(kIcons[at]));
+    button->setIcon(uiIcon(kIcons[i]));
     button->setIconSize(QSize(24, 24));
     button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     button->setAutoRaise(true);
@@ -209,16 +207,14 @@ void mdiMain::buildShortcutBar() {
     small.setPointSizeF(qMax(7.0, small.pointSizeF() - 1));
     button->setFont(small);
     connect(button, &QToolButton::clicked, action, &QAction::trigger);
-    cmdShtCut_[at] = button;
+    cmdShtCut_[i] = button;
   }
   lblStatusTip_ = named(new clsElidedLabel(picShtCut_), QStringLiteral("lblStatusTip"));
   lblStatusTip_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  picCommError_ = named(new QWidget(picShtCut_), QStringLiteral("picCommError"));
   auto* row = new QHBoxLayout(picShtCut_);
   const int buttonsEnd = toPixels(shortcutsEnd());
   row->setContentsMargins(buttonsEnd + 10, 0, 10, 0);
   row->addWidget(lblStatusTip_, 1);
-  row->addWidget(picCommError_);
 }
 
 void mdiMain::buildStatusBar() {
@@ -229,14 +225,14 @@ void mdiMain::buildStatusBar() {
   for (int i = 0; i <= kBoxes; ++i) {
     auto* panel = new frmBoxPanel(i, bar);
     panel->onCommand = [this, i](PanelCommand command) { panelCommand(command, i); };
-    panel_[static_cast<std::size_t>(i)] = panel;
+    panel_[i] = panel;
   }
-  connect(panel_[0]->boxList(), &QComboBox::currentIndexChanged, this, &mdiMain::chooseMainBox);
+  connect(panel_[0]->boxList(), &QComboBox::currentIndexChanged, this, &mdiMain::cmbSerNum_Click);
   auto* contents = buildStatusContents();
   contents->setGeometry(toPixels(panelsEnd()) + 6, 2, kContentsWidth - 8, kStatusHeight - 4);
   auto* counterArea = named(new clsClickArea(bar), QStringLiteral("picCommErrorViewCnt"));
   counterArea->setGeometry(bar->width() - kCounterWidth, 2, kCounterWidth, kStatusHeight - 4);
-  counterArea->onClick = [this] { clickCounters(); };
+  counterArea->onClick = [this] { picCommErrorViewCnt_Click(); };
 }
 
 QWidget* mdiMain::buildStatusModes() {
@@ -250,10 +246,10 @@ QWidget* mdiMain::buildStatusModes() {
     auto* option = named(new QRadioButton(texts[i], box), elementName("optStaMode", i));
     group->addButton(option, i);
     column->addWidget(option);
-    optStaMode_[static_cast<std::size_t>(i)] = option;
+    optStaMode_[i] = option;
   }
   connect(group, &QButtonGroup::idToggled, this, [this](int id, bool on) {
-    if (on) chooseStatusMode(id);
+    if (on) optStaMode_Click(id);
   });
   return box;
 }
@@ -271,24 +267,25 @@ QWidget* mdiMain::buildStatusContents() {
     auto* option = named(new QRadioButton(texts[i], box), elementName("optStaContents", i));
     group->addButton(option, i);
     grid->addWidget(option, i / 2, i % 2);
-    optStaContents_[static_cast<std::size_t>(i)] = option;
+    optStaContents_[i] = option;
   }
   connect(group, &QButtonGroup::idToggled, this, [this](int id, bool on) {
-    if (on) chooseStatusContents(id);
+    if (on) optStaContents_Click(id);
   });
   return box;
 }
 
+// In the corner of the menu bar, which stays when both bars are off.
 void mdiMain::buildCounters() {
-  auto* grid = new QGridLayout(picCommError_);
-  grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(12);
-  grid->setVerticalSpacing(0);
+  picCommError_ = named(new QWidget(menuBar()), QStringLiteral("picCommError"));
+  auto* row = new QHBoxLayout(picCommError_);
+  row->setContentsMargins(0, 0, 10, 0);
+  row->setSpacing(12);
   for (int i = 0; i < 4; ++i) {
-    auto* label = named(new QLabel(picCommError_), elementName("lblCommErr", i));
-    grid->addWidget(label, i % 2, i / 2);
-    lblCommErr_[static_cast<std::size_t>(i)] = label;
+    lblCommErr_[i] = named(new QLabel(picCommError_), elementName("lblCommErr", i));
+    row->addWidget(lblCommErr_[i]);
   }
+  menuBar()->setCornerWidget(picCommError_);
   picCommError_->hide();
   gLinkEvents.countersChanged = [this] { showCounters(); };
 }

@@ -54,7 +54,7 @@ void mdiMain::openOnBox(int32_t mode) {
   if (selectBox(mode)) Dialog(gSelSerial, this).exec();
 }
 
-void mdiMain::mnuFMeterRead() {
+void mdiMain::mnuFMeterRead_Click() {
   const clsTimerPause pause(*tmrStatus_);
   if (!selectBox(kSelectBox)) return;
   const int32_t serial = gSelSerial;
@@ -75,34 +75,34 @@ void mdiMain::mnuFMeterRead() {
   if (waveRequestSet == 1) lblStatusTip_->setText(tr("Read; this version cannot show waves yet."));
 }
 
-void mdiMain::mnuFCSVChange() {
+void mdiMain::mnuFCSVChange_Click() {
   frmBin_CSV(this).exec();
 }
 
-void mdiMain::mnuEMonitorSet() {
+void mdiMain::mnuEMonitorSet_Click() {
   frmSetMonitor(this).exec();
   applyMonitorSelection();
 }
 
-void mdiMain::mnuEMeasureSet() {
+void mdiMain::mnuEMeasureSet_Click() {
   selectBox(kSelectBox);
   // A row without a box opens the dialog as well: conditions can be prepared without one.
   if (openMeasureSetting(gSelSerial, this, *tmrStatus_)) refreshMonitorUnits();
 }
 
-void mdiMain::mnuETimeSet() {
+void mdiMain::mnuETimeSet_Click() {
   openOnBox<frmDataTime>(kSelectConnected);
 }
 
-void mdiMain::mnuCCAL() {
+void mdiMain::mnuCCAL_Click() {
   openOnBox<frmCal>(kSelectConnected);
 }
 
-void mdiMain::mnuCSetList() {
+void mdiMain::mnuCSetList_Click() {
   openOnBox<frmList>(kSelectBox);
 }
 
-void mdiMain::mnuCBalance() {
+void mdiMain::mnuCBalance_Click() {
   const clsTimerPause pause(*tmrStatus_);
   selectBox(kSelectBoxAndChannel);
   if (gSelSerial == kSelectCancelled || gSelSerial == kNoSerial) return;
@@ -112,7 +112,7 @@ void mdiMain::mnuCBalance() {
   runBalance(steps, viewOf(window));
 }
 
-void mdiMain::mnuCCFinit() {
+void mdiMain::mnuCCFinit_Click() {
   const clsTimerPause pause(*tmrStatus_);
   if (!selectBox(kSelectConnected) || !askCardInit(gSelSerial)) return;
   frmStatusBar window(QStringLiteral("Initializing CF card"), this);

@@ -2,6 +2,7 @@
 #include "shell/mdlArrange.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace vk {
@@ -46,8 +47,8 @@ std::vector<TilePlace> tilePlaces(Tiling tiling, int count, int width, int heigh
 
 std::vector<TilePlace> cascadePlaces(std::vector<TilePlace> windows, int width, int height) {
   const int steps = std::max(1, (std::min(width, height) - kCascadeRest) / kCascadeStep + 1);
-  for (std::size_t i = 0; i < windows.size(); ++i) {
-    const int step = static_cast<int>(i) % steps * kCascadeStep;
+  for (int i = 0; i < ssize(windows); ++i) {
+    const int step = i % steps * kCascadeStep;
     windows[i].left = step;
     windows[i].top = step;
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/mdlBoxPanel.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/mdlMessages.h"
@@ -99,7 +100,7 @@ std::array<std::string, kBoxes> boxListTexts() {
 bool selectMainBox(int32_t listIndex) {
   if (listIndex < 0 || listIndex >= kBoxes || listIndex + 1 == gMainBox) return false;
   gMainBox = listIndex + 1;
-  if (isConnected(gBoxTable[static_cast<std::size_t>(gMainBox)])) readBackState(gMainBox);
+  if (isConnected(gBoxTable[gMainBox])) readBackState(gMainBox);
   return true;
 }
 
@@ -110,7 +111,7 @@ int32_t rowOfPanel(int32_t index) {
 int32_t runPanelCommand(PanelCommand command, int32_t index) {
   // The choice of the main box can change while the exchange yields; the row is fixed here.
   const int32_t row = rowOfPanel(index);
-  const int32_t serial = gBoxTable[static_cast<std::size_t>(row)].serial;
+  const int32_t serial = gBoxTable[row].serial;
   int32_t result = kUsbOk;
   switch (command) {
     case PanelCommand::kStart:
@@ -132,8 +133,7 @@ std::array<PanelPlace, kBoxes + 1> panelPlaces(int32_t mode, int32_t mainBox) {
   std::array<PanelPlace, kBoxes + 1> places;
   if (mode != 1) {
     for (int32_t box = 1; box <= kBoxes; ++box) {
-      places[static_cast<std::size_t>(box)] = {true, (box - 1) * kPanelPitch + kPanelsLeft, kTop,
-                                               kPanelWidth, kFullHeight};
+      places[box] = {true, (box - 1) * kPanelPitch + kPanelsLeft, kTop, kPanelWidth, kFullHeight};
     }
     return places;
   }
@@ -142,9 +142,8 @@ std::array<PanelPlace, kBoxes + 1> panelPlaces(int32_t mode, int32_t mainBox) {
   int32_t taken = 0;
   for (int32_t box = 1; box <= kBoxes; ++box) {
     if (box == validMainBox(mainBox)) continue;
-    places[static_cast<std::size_t>(box)] = {true, kSmallLeft + taken % kSmallPerRow * kPanelPitch,
-                                             taken < kSmallPerRow ? kTop : kSecondTop, kPanelWidth,
-                                             kSmallHeight};
+    places[box] = {true, kSmallLeft + taken % kSmallPerRow * kPanelPitch,
+                   taken < kSmallPerRow ? kTop : kSecondTop, kPanelWidth, kSmallHeight};
     ++taken;
   }
   return places;
@@ -155,7 +154,7 @@ std::array<ShortcutPlace, kShortcuts> shortcutPlaces(bool cal) {
   int32_t left = kShortcutsLeft;
   for (int i = 0; i < kShortcuts; ++i) {
     const bool visible = cal || i != kShortcutCal;
-    places[static_cast<std::size_t>(i)] = {visible, left};
+    places[i] = {visible, left};
     if (visible) left += kShortcutWidth;
   }
   return places;
@@ -166,7 +165,7 @@ std::string_view shortcutText(int index) {
       "Open Dat", "CSV Cnv", "Read USB", "Meas Set", "Moni Set", "Balance",
       "CAL",      "Check",   "List",     "CF Ini",   "Re-Cnt"};
   if (index < 0 || index >= kShortcuts) return {};
-  return kTexts[static_cast<std::size_t>(index)];
+  return kTexts[index];
 }
 
 bool calVisible(const OneBased<MeasureSetting, kFileRow>& table) {
@@ -177,7 +176,14 @@ bool calVisible(const OneBased<MeasureSetting, kFileRow>& table) {
 }
 
 FramePlace framePlace(int32_t screenWidth, int32_t frameWidth) {
-  return {roundWhole((static_cast<double>(screenWidth) - frameWidth) / 2), 0, kFrameHeight};
+  return {roundWhole((screenWidth - frameWidth) / 2.0), 0, kFrameHeight};
+}
+
+int frameGrowth(const FrameRoom& room) {
+  constexpr int kRim = 8;
+  if (room.lowest <= room.areaHeight) return 0;
+  return std::clamp(room.lowest + kRim - room.areaHeight, 0,
+                    std::max(0, room.screenBottom - room.frameBottom));
 }
 
 std::optional<int32_t> activeSerialOfCaption(std::string_view caption) {

@@ -100,6 +100,17 @@ struct FramePlace {
 /// Where the main window opens.
 FramePlace framePlace(int32_t screenWidth, int32_t frameWidth);
 
+/// Pixels. A work area with the lower edge of the lowest window in it, and the lower edges of the
+/// frame around it and of the screen.
+struct FrameRoom {
+  int lowest = 0;
+  int areaHeight = 0;
+  int frameBottom = 0;
+  int screenBottom = 0;
+};
+/// How much higher the frame becomes to show the windows, as far as the screen allows.
+int frameGrowth(const FrameRoom& room);
+
 // --- other ----------------------------------------------------------------------------------
 
 /// The number between the first "<" and the next ">" of a child window's caption.

@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "base/mdlGeneral.h"
 #include "base/mdlGuard.h"
 #include "base/mdlMessages.h"
@@ -20,9 +21,10 @@ namespace {
 constexpr int32_t kEnglishTexts = 5000;
 constexpr double kSettleSeconds = 0.5;
 
-template <typename... Arguments>
-void run(const std::function<void(Arguments...)>& handler, Arguments... arguments) {
-  if (handler) handler(arguments...);
+bool gReconnecting = false;
+
+void run(const std::function<void()>& stage) {
+  if (stage) stage();
 }
 
 /// True when the user's locale is of no use; he was told.
@@ -101,38 +103,26 @@ void shutDown(std::string_view fileList) {
   desktop().endProgram();
 }
 
-namespace {
-
-/// Everything as after a start. The monitors' arrangement goes through the file, or past it when
-/// the file cannot be written.
-void restartSettings() {
-  const auto monitors = std::tuple(gNumMoni, gWaveMoni, gXYMoni, gBarMoni, gCircleMoni);
+bool autoReconnect(const LogBox& log) {
+  if (gReconnecting) return false;
+  const FlagGuard guard(gReconnecting);
+  unloadMonitors();
+  const Settings settings;
   const bool kept = writeConfig();
   setDefaults();
   readConfig();
-  if (!kept) std::tie(gNumMoni, gWaveMoni, gXYMoni, gBarMoni, gCircleMoni) = monitors;
-}
-
-}  // namespace
-
-void autoReconnect(const ReconnectSteps& steps) {
-  static bool running = false;
-  if (running) return;
-  const FlagGuard guard(running);
-  run(steps.statusTimer, false);
-  unloadMonitors();
-  restartSettings();
-  connectBoxes(false, steps.log);
+  // A box that is refused reads the file once more; what the file could not take goes past it.
+  std::ignore = connectBoxes(false, log);
+  if (!kept) takeSettings(settings);
   openStoredMonitors();
   waitSeconds(kSettleSeconds);
-  if (desktop().ending()) return;
-  run(steps.rebuildPanels);
-  run(steps.statusTimer, true);
+  return !desktop().ending();
 }
 
 bool askReconnect() {
-  return desktop().messageBox("Re-connect", "Reconnected and connected VK-480Q is recognized.",
-                              BoxButtons::kOkCancel, BoxIcon::kInformation) == BoxAnswer::kOk;
+  return !gReconnecting &&
+         confirmBox("Re-connect", "Reconnected and connected VK-480Q is recognized.",
+                    BoxIcon::kInformation);
 }
 
 }  // namespace vk

@@ -30,17 +30,13 @@ void monitorLoop();
 /// (`fileList` names further ones), library, end. A running recording goes on in its box.
 void shutDown(std::string_view fileList);
 
-/// What a reconnect does to the windows.
-struct ReconnectSteps {
-  std::function<void(bool on)> statusTimer;
-  LogBox log;                           ///< hidden
-  std::function<void()> rebuildPanels;  ///< box list and panels of the main window
-};
-
-/// Looks for the boxes again; the monitors' arrangement survives through the configuration file.
-/// A call from inside a running reconnect does nothing.
-void autoReconnect(const ReconnectSteps& steps);
-/// The question before a reconnect by hand; false after Cancel.
-bool askReconnect();
+/// Looks for the boxes again; all settings survive, through the configuration file or past one that
+/// cannot be written. True when box list and panels are to be rebuilt; false inside a running
+/// reconnect, where nothing is done, and when the program is ending. The status poll is off
+/// meanwhile.
+[[nodiscard]] bool autoReconnect(const LogBox& log);
+/// The question before a reconnect by hand; false after Cancel. While a reconnect runs nothing is
+/// asked.
+[[nodiscard]] bool askReconnect();
 
 }  // namespace vk

@@ -2,6 +2,7 @@
 #include "shell/mdlStart.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "base/clsDesktop.h"
 #include "link/mdlUSBCommand.h"
@@ -34,7 +35,6 @@ bool refreshClock(StartRow& row, int32_t handle) {
 
 bool activateStart(const LogBox& log, std::vector<StartRow>& rows) {
   rows.clear();
-  if (log.clear) log.clear();
   gStartMode = connectBoxes(true, log);
   if (gStartMode == kStartTooMany) gStartOK = 0;
   if (gStartMode != kStartNormal) return false;
@@ -58,8 +58,8 @@ void setStartClocks(std::vector<StartRow>& rows) {
   for (std::size_t i = 0; i < usedRows(rows) && !desktop().ending(); ++i) {
     if (!rows[i].ticked) continue;
     // A refusal was shown by the command; the clock is read all the same, and shows what holds.
-    usbRTM(gBoxTable[i + 1].serial, rtmText(desktop().now()));
-    refreshClock(rows[i], gBoxTable[i + 1].handle);
+    std::ignore = usbRTM(gBoxTable[i + 1].serial, rtmText(desktop().now()));
+    std::ignore = refreshClock(rows[i], gBoxTable[i + 1].handle);
   }
 }
 

@@ -57,13 +57,10 @@ class ConnectionTest : public vktest::LinkTest {
 
   /// Runs the scan; its log stands in the transcript.
   static int32_t scan(bool allowUpgrade) {
-    LogBox logBox;
-    logBox.clear = [] { library().transcript.push_back("log clear"); };
-    logBox.append = [](const std::string& line) {
+    return connectBoxes(allowUpgrade, [](const std::string& line) {
       EXPECT_TRUE(line.ends_with("\r\n"));
       library().transcript.push_back("log " + line.substr(0, line.size() - 2));
-    };
-    return connectBoxes(allowUpgrade, logBox);
+    });
   }
 
   /// The transcript with every write and its read as "1:LST1", those of one device in a row.
@@ -105,7 +102,7 @@ class ConnectionTest : public vktest::LinkTest {
   std::vector<Box> boxes;
 };
 
-const std::string kHead = "status\nlog clear\ncount\n";
+const std::string kHead = "status\ncount\n";
 const std::string kNormal = "normal.\n";
 const std::string kNotConnected = "log VK-480Q is not connected.\n";
 const std::string kSingle =
@@ -147,7 +144,7 @@ TEST_F(ConnectionTest, ThreeBoxesKeepTheLibrarysOrder) {
   boxes[2]["FLN"].bytes = "ERR,51";
   EXPECT_EQ(scan(false), kStartNormal);
   EXPECT_EQ(story(),
-            "status\nclose\nlog clear\ncount\n1:LST1 2:LST1 3:LST1 " + goodStory("1", "0000042") +
+            "status\nclose\ncount\n1:LST1 2:LST1 3:LST1 " + goodStory("1", "0000042") +
                 goodStory("2", "1234567", "VK-240Q", kNormal, "log  CF card is not inserted.\n") +
                 goodStory("3", "7654321", "VK-480Qe", kNormal,
                           "log  Unexpected error has occurred in CF card.\n") +

@@ -42,6 +42,8 @@ TEST_F(frmStartTest, ListsAndLogsWhatItFinds) {
   EXPECT_EQ(control<QLabel>(form, "lblSearch")->text(), "Searching for instruments...");
   EXPECT_FALSE(control<QPushButton>(form, "cmdOK")->isEnabled());
   search(form, kThreeBoxes);
+  const auto* list = control<QTreeWidget>(form, "lvwCnnt240Q");
+  EXPECT_TRUE(list->columnWidth(0) == 127 && list->columnWidth(1) == 260);
   EXPECT_EQ(control<QLabel>(form, "lblSearch")->text(), "3 instruments are ready.");
   EXPECT_EQ(rows(form), "4810021|\n4800137|\n2400052|\n");
   EXPECT_EQ(log(form),

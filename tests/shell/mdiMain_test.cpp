@@ -16,6 +16,7 @@
 #include "base/mdlDataFolder.h"
 #include "link/mdlUSBCommand.h"
 #include "storage/mdlTempFiles.h"
+#include "tests/support/fake_monitor.h"
 
 namespace vktest {
 namespace {
@@ -126,6 +127,15 @@ TEST_F(mdiMainTest, TheMainPanelStandsForTheBoxOfTheList) {
   EXPECT_EQ(panels(0, 0), "4800137|Waiting for Trigger |000\n");
   EXPECT_FALSE(at("picBoxNo", 2).isVisible());
   EXPECT_EQ(at("picBoxNo", 8).geometry(), QRect(668, 29, 114, 25));
+  // A low panel shows its state, also without a box, but no buttons.
+  std::string shown;
+  for (const int mode : {1, 0}) {
+    click("optStaMode", mode);
+    for (const int box : {3, 8})
+      for (const char* name : {"lblSerNumber", "shpStatus", "cmdStart", "cmdStop", "cmdMtrg"})
+        shown += at(name, box).isVisible() ? '1' : '0';
+  }
+  EXPECT_EQ(shown, "11000110001111111111");
 }
 
 TEST_F(mdiMainTest, MenuItemsStandInTheirPlaces) {
@@ -184,6 +194,7 @@ TEST_F(mdiMainTest, TheTwentiethClickShowsTheCounters) {
   open();
   auto* area = control<QWidget>(*form, "picCommErrorViewCnt");
   auto* counters = control<QWidget>(*form, "picCommError");
+  item("mnuVShortCut").trigger();  // the bar beside them is of no account
   vk::gCommReconnectCnt = 3;
   for (int i = 1; i <= 21; ++i) {
     QTest::mouseClick(area, Qt::LeftButton);
@@ -228,6 +239,24 @@ TEST_F(mdiMainTest, ReadingACardGoesOverTheChoiceOfABox) {
     EXPECT_EQ(desk.takeLog(), row.log);
     EXPECT_EQ(opened, row.opens ? 1 : 0);
     EXPECT_TRUE(status()->isActive());
+  }
+}
+
+TEST_F(mdiMainTest, SetOfTheConditionsBringsTheUnitsIntoTheMonitors) {
+  open();
+  std::vector<std::string> calls;
+  vk::gNumMoni[4].NUM_ONOFF = true;
+  const FakeMonitor monitor(vk::MonitorKind::kNumerical, 4, calls);
+  for (const char* button : {"cmdCancel", "cmdSet"}) {
+    inModal("frmSelectMeterCh", [&](QDialog& choice) {
+      control<QComboBox>(choice, "cmbMeter")->setCurrentIndex(0);
+      inModal("frmSetting",
+              [&](QDialog& dialog) { control<QPushButton>(dialog, button)->click(); });
+      control<QPushButton>(choice, "cmdRun")->click();
+    });
+    item("mnuEMeasureSet").trigger();
+    const bool set = button == std::string("cmdSet");
+    EXPECT_EQ(calls, std::vector<std::string>(set ? 1 : 0, "numerical 4 unit"));
   }
 }
 

@@ -12,6 +12,7 @@
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTest>
 
 #include <vector>
 
@@ -282,11 +283,37 @@ TEST_F(mdiMonitorsTest, NonsensePlacesFromAFileStayWithinReach) {
 }
 
 TEST_F(mdiMonitorsTest, TheFrameMakesRoomForItsFirstMonitors) {
+  const auto reopen = [this](int32_t lower) {
+    for (const std::size_t i : {0, 1, 2}) {
+      vk::gNumMoni[i].NUM_TOP = i == 1 ? lower : 0;
+      open(i, kFirst);
+    }
+    quick.clsQtDesktop::doEvents();
+  };
   vk::unloadMonitors();
-  form->resize(600, 160);
-  vk::gNumMoni[0].NUM_TOP = 3000;
+  form.reset();
+  form = std::make_unique<vk::mdiMain>();
+  form->show();
+  const auto* area = control<QWidget>(*form, "mdiArea");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return form->isActiveWindow(); }));
+  quick.clsQtDesktop::doEvents();
+  const int strip = form->height();
+  reopen(3000);
+  EXPECT_EQ(area->height(), 200 + 167 + 8);
+  EXPECT_GT(form->height(), strip);
+  // Once only.
+  vk::unloadMonitors();
+  reopen(4500);
+  EXPECT_EQ(area->height(), 200 + 167 + 8);
+}
+
+TEST_F(mdiMonitorsTest, AFrameThatTheUserHasSizedStays) {
+  quick.clsQtDesktop::doEvents();
+  vk::unloadMonitors();
+  form->resize(form->width(), 230);
   vk::openMonitor(vk::MonitorKind::kNumerical, 0);
-  EXPECT_GE(form->findChild<QWidget*>("mdiArea")->height(), 200 + 167);
+  quick.clsQtDesktop::doEvents();
+  EXPECT_EQ(form->height(), 230);
 }
 
 }  // namespace

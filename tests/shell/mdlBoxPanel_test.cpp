@@ -147,6 +147,14 @@ TEST_F(BoxPanel, PlacesOfThePanels) {
   EXPECT_EQ(framePlace(12000, 15000), (FramePlace{-1500, 0, 2415}));
 }
 
+TEST_F(BoxPanel, TheFrameGrowsForItsWindowsAsFarAsTheScreenAllows) {
+  const std::pair<FrameRoom, int> rows[] = {{{0, 1, 160, 899}, 0},     {{100, 100, 260, 899}, 0},
+                                            {{101, 100, 260, 899}, 9}, {{200, 1, 160, 899}, 207},
+                                            {{740, 1, 160, 899}, 739}, {{200, 1, 899, 899}, 0},
+                                            {{200, 1, 950, 899}, 0}};
+  for (const auto& [room, growth] : rows) EXPECT_EQ(frameGrowth(room), growth) << room.lowest;
+}
+
 TEST_F(BoxPanel, CalibrationNeedsAnAnalogOutput) {
   const std::tuple<std::size_t, int16_t, bool> rows[] = {
       {1, kVk480Qe, true}, {8, kVk240Qe, true}, {1, kVk240Q, false}, {9, kVk480Qe, false}};

@@ -41,9 +41,6 @@ class MainRun : public testing::Test {
       monitors_.push_back(
           std::make_unique<vktest::FakeMonitor>(kind, gMoniLoadIndex, desktop_.log));
     };
-    steps_ = {[this](bool on) { note(on ? "timer on" : "timer off"); },
-              {{}, [this](const std::string& line) { scan_ += line; }},
-              [this] { note("panels"); }};
   }
   ~MainRun() override {
     fs::current_path(before_);
@@ -61,8 +58,8 @@ class MainRun : public testing::Test {
   vktest::FakeDesktop desktop_;
   MainStages stages_;
   std::vector<std::unique_ptr<vktest::FakeMonitor>> monitors_;
-  ReconnectSteps steps_;
   std::string scan_;
+  const LogBox log_ = [this](const std::string& line) { scan_ += line; };
   int32_t mode_ = 0;
   int32_t ok_ = 1;
 };
@@ -185,10 +182,9 @@ TEST_F(MainRun, ReconnectKeepsTheMonitorsAndFindsTheBoxesAnew) {
   openMonitor(MonitorKind::kCircle, 7);  // hidden since: goes as well, and stays off
   desktop_.takeLog();
   monitors_[0]->onUnload = [] { gNumMoni[3].NUM_TOP = 315; };  // a window stores its place
-  autoReconnect(steps_);
+  EXPECT_TRUE(autoReconnect(log_));
   EXPECT_EQ(desktop_.takeLog(),
-            "timer off\nnumerical 3 unload\ncircle 7 unload\nnumerical 3 init\n"
-            "numerical 3 show\npanels\ntimer on\n");
+            "numerical 3 unload\ncircle 7 unload\nnumerical 3 init\nnumerical 3 show\n");
   EXPECT_GE(desktop_.clock, 500);
   EXPECT_TRUE(gNumMoni[3].NUM_ONOFF);
   EXPECT_EQ(gNumMoni[3].NUM_TOP, 315);
@@ -198,37 +194,50 @@ TEST_F(MainRun, ReconnectKeepsTheMonitorsAndFindsTheBoxesAnew) {
   gCommSendErrCnt = 0;
 }
 
-TEST_F(MainRun, ReconnectKeepsTheMonitorsAlsoWhenTheFileCannotBeWritten) {
-  fs::create_directories(configFile());
-  vktest::library().devices = 0;
-  gBarMoni[2].BAR_ONOFF = true;
-  gBarMoni[2].BAR_CAPTION = "wing";
-  autoReconnect(steps_);
-  EXPECT_TRUE(gBarMoni[2].BAR_ONOFF);
-  EXPECT_EQ(gBarMoni[2].BAR_CAPTION, "wing");
-}
-
-TEST_F(MainRun, ReconnectRefusesABoxInUpgradeMode) {
+// With a box that is refused, after which the file is read once more; and with a file that cannot
+// be written.
+TEST_F(MainRun, ReconnectKeepsAllSettings) {
+  gRestoreDefaults = [this] {
+    note("defaults");
+    setDefaults();
+    readConfig();
+  };
   vktest::ScriptedBox upgrade;
   upgrade.upgrade = true;
-  vktest::plugIn({{1, upgrade}});
-  gRestoreDefaults = [this] { note("defaults"); };
-  autoReconnect(steps_);
-  EXPECT_EQ(desktop_.takeLog(),
-            "timer off\n"
-            "box[Connection error][VK-480Q in upgrade mode is connected. Stop the upgrade mode and "
-            "reconnect.][ok][none]\n"
-            "defaults\npanels\ntimer on\n");
+  for (const bool writable : {true, false}) {
+    for (const bool refused : {false, true}) {
+      SCOPED_TRACE(testing::Message() << writable << refused);
+      fs::remove_all(configFile());
+      if (!writable) fs::create_directories(configFile());
+      setDefaults();
+      vktest::library() = {};
+      if (refused) vktest::plugIn({{1, upgrade}});
+      gNumMoni[3].NUM_TOP = gWaveMoni[7].WAV_LEFT = gXYMoni[1].XY_POINT = 315;
+      gBarMoni[2].BAR_CAPTION = gCircleMoni[0].CRL_CAPTION = "wing";
+      gShowShortcut = gShowStatus = false;
+      gStatusMode = 1;
+      gMainBox = gStatusContents = 3;
+      gDefaultFolder = "/data/runs";
+      const std::string before = configText();
+      EXPECT_TRUE(autoReconnect(log_));
+      EXPECT_EQ(configText(), before);
+      EXPECT_EQ(gBoxTable[1].handle, kNoHandle);
+      EXPECT_EQ(desktop_.takeLog(),
+                refused ? "box[Connection error][VK-480Q in upgrade mode is connected. Stop the "
+                          "upgrade mode and reconnect.][ok][none]\ndefaults\n"
+                        : "");
+    }
+  }
 }
 
 TEST_F(MainRun, ReconnectRunsOnceAndTouchesNoWindowOnceTheProgramEnds) {
   vktest::library().devices = 0;
-  desktop_.yields.push_back([this] { autoReconnect(steps_); });
-  autoReconnect(steps_);
-  EXPECT_EQ(desktop_.takeLog(), "timer off\npanels\ntimer on\n");
+  desktop_.yields.push_back([this] { EXPECT_FALSE(autoReconnect(log_) || askReconnect()); });
+  EXPECT_TRUE(autoReconnect(log_));
+  EXPECT_EQ(desktop_.takeLog(), "");
   desktop_.yields.push_back([this] { shutDown(""); });
-  autoReconnect(steps_);
-  EXPECT_EQ(desktop_.takeLog(), "timer off\nend\n");
+  EXPECT_FALSE(autoReconnect(log_));
+  EXPECT_EQ(desktop_.takeLog(), "end\n");
 }
 
 TEST_F(MainRun, QuestionBeforeAReconnectByHand) {

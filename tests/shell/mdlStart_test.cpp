@@ -52,13 +52,21 @@ TEST_F(Start, ClocksRunUnlessAnExchangeDoes) {
   EXPECT_TRUE(tickStartClocks(rows_));
   EXPECT_EQ(vktest::library().takeTranscript(),
             "write(1,STA20)\nread(1)\nwrite(2,STA20)\nread(2)\n");
-  const auto both = ElementsAre(StartRow{"0000042", "2026/01/05  09:30:00", false},
-                                StartRow{"1234567", "2005/03/01  00:00:07", false});
-  EXPECT_THAT(rows_, both);
-  // Boxes that do not answer keep their last clocks.
+  const std::vector<StartRow> both = {{"0000042", "2026/01/05  09:30:00", false},
+                                      {"1234567", "2005/03/01  00:00:07", false}};
+  EXPECT_EQ(rows_, both);
+  // One that answers is enough for a change, wherever it stands; the other keeps its last clock.
+  for (const int16_t answering : {1, 2}) {
+    vktest::plugIn({{answering, box("0000042", "26/01/05 09:30:01")}});
+    rows_[0].clock = rows_[1].clock = "old";
+    EXPECT_TRUE(tickStartClocks(rows_));
+    EXPECT_EQ(rows_[answering - 1].clock, "2026/01/05  09:30:01");
+    EXPECT_EQ(rows_[2 - answering].clock, "old");
+  }
+  rows_ = both;
   vktest::plugIn({});
   EXPECT_FALSE(tickStartClocks(rows_));
-  EXPECT_THAT(rows_, both);
+  EXPECT_EQ(rows_, both);
 }
 
 TEST_F(Start, TimeSetupOfTheTickedRows) {
