@@ -35,7 +35,7 @@ frmBoxPanel::frmBoxPanel(int index, QWidget* parent) : QFrame(parent), index_(in
   fraMeterStatus_ = named(new clsElidedLabel(shpStatus_), elementName("fraMeterStatus", index));
   fraMeterStatus_->setAlignment(Qt::AlignCenter);
   auto* inside = new QHBoxLayout(shpStatus_);
-  inside->setContentsMargins(2, 0, 2, 0);
+  inside->setContentsMargins(1, 0, 1, 0);
   inside->addWidget(fraMeterStatus_);
   if (index == 0) {
     cmbSerNum_ = named(new QComboBox(this), QStringLiteral("cmbSerNum"), tr("Main box"));
@@ -114,8 +114,8 @@ void frmBoxPanel::arrangeMain() {
 
 void frmBoxPanel::arrangeLow() {
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(2, 1, 2, 1);
-  row->setSpacing(3);
+  row->setContentsMargins(1, 1, 1, 1);
+  row->setSpacing(2);
   row->addWidget(imgLED_);
   row->addWidget(lblSerNumber_, 1);
   row->addWidget(shpStatus_, 1);

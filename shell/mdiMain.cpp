@@ -212,6 +212,8 @@ void mdiMain::picCommErrorViewCnt_Click() {
 void mdiMain::showCounters() {
   const auto texts = counterTexts();
   for (std::size_t i = 0; i < texts.size(); ++i) lblCommErr_[i]->setText(toQt(texts[i]));
+  // The menu bar asks its corner for its width at this moment only.
+  menuBar()->setCornerWidget(picCommError_);
 }
 
 void mdiMain::closeEvent(QCloseEvent* event) {

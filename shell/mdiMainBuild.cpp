@@ -285,7 +285,6 @@ void mdiMain::buildCounters() {
     lblCommErr_[i] = named(new QLabel(picCommError_), elementName("lblCommErr", i));
     row->addWidget(lblCommErr_[i]);
   }
-  menuBar()->setCornerWidget(picCommError_);
   picCommError_->hide();
   gLinkEvents.countersChanged = [this] { showCounters(); };
 }

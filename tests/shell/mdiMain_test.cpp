@@ -205,6 +205,8 @@ TEST_F(mdiMainTest, TheTwentiethClickShowsTheCounters) {
   vk::gLinkEvents.countersChanged();
   EXPECT_EQ(text("lblCommErr", 1) + text("lblCommErr", 2) + text("lblCommErr", 3),
             "Send = 1Recive = 22Content = 7");
+  for (int i = 0; i < 4; ++i)
+    EXPECT_GE(at("lblCommErr", i).width(), at("lblCommErr", i).sizeHint().width());
   vk::resetCommCounters();
 }
 
