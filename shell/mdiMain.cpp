@@ -150,22 +150,18 @@ void mdiMain::loadMonitor(MonitorKind kind) {
   QTimer::singleShot(0, this, &mdiMain::makeRoom);
 }
 
-bool mdiMain::frameIsOurs() const {
-  return strip_ == height() && !isMaximized() && !isFullScreen() && !isMinimized();
-}
-
 // The frame opens as a strip, in which a first child window would be cut off. Windows that open
 // together find their room together: while one of them is being loaded the next is to come.
 void mdiMain::makeRoom() {
-  if (loading_ || !placed_ || !frameIsOurs()) return;
+  if (loading_ || !placed_ || isMaximized() || isFullScreen() || isMinimized()) return;
   int lowest = 0;
   for (const auto* child : area_->subWindowList()) {
     if (child->isVisible()) lowest = qMax(lowest, child->geometry().bottom() + 1);
   }
-  const int more = frameGrowth(
-      {lowest, area_->height(), frameGeometry().bottom(), screen()->availableGeometry().bottom()});
+  const int more = frameGrowth({size() == opened_, lowest, area_->height(),
+                                frameGeometry().bottom(), screen()->availableGeometry().bottom()});
   if (more == 0) return;
-  strip_ = 0;
+  opened_ = {};
   resize(width(), height() + more);
 }
 
@@ -278,7 +274,7 @@ void mdiMain::fitFrame() {
   placed_ = true;
   const int frameHeight = frameGeometry().height() - height();
   if (!isMaximized()) resize(width(), toPixels(framePlace(0, 0).height) - frameHeight);
-  strip_ = height();
+  opened_ = size();
   makeRoom();
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QSize>
 #include <array>
 #include <functional>
 #include <vector>
@@ -80,7 +81,6 @@ class mdiMain : public QMainWindow {
   void placeFrame();
   void fitFrame();
   void makeRoom();
-  bool frameIsOurs() const;
 
   void placePanels();
   void showAllPanels();
@@ -132,7 +132,7 @@ class mdiMain : public QMainWindow {
   QAction* mnuVStatus_ = nullptr;
   CounterClicks commViewClicks_;
   bool placed_ = false;
-  int strip_ = 0;  ///< height of the frame as it was opened; 0 once it has made room
+  QSize opened_;  ///< size as it was opened; none once it has made room
   bool loading_ = false;
   bool filling_ = false;
   bool commanding_ = false;

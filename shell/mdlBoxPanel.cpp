@@ -181,7 +181,7 @@ FramePlace framePlace(int32_t screenWidth, int32_t frameWidth) {
 
 int frameGrowth(const FrameRoom& room) {
   constexpr int kRim = 8;
-  if (room.lowest <= room.areaHeight) return 0;
+  if (!room.untouched || room.lowest <= room.areaHeight) return 0;
   return std::clamp(room.lowest + kRim - room.areaHeight, 0,
                     std::max(0, room.screenBottom - room.frameBottom));
 }

@@ -103,12 +103,14 @@ FramePlace framePlace(int32_t screenWidth, int32_t frameWidth);
 /// Pixels. A work area with the lower edge of the lowest window in it, and the lower edges of the
 /// frame around it and of the screen.
 struct FrameRoom {
+  bool untouched = true;  ///< the frame has the size that it opened with
   int lowest = 0;
   int areaHeight = 0;
   int frameBottom = 0;
   int screenBottom = 0;
 };
-/// How much higher the frame becomes to show the windows, as far as the screen allows.
+/// How much higher the frame becomes to show its first windows, as far as the screen allows. One
+/// that has grown before, or was sized by the user, stays.
 int frameGrowth(const FrameRoom& room);
 
 // --- other ----------------------------------------------------------------------------------

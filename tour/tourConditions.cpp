@@ -108,7 +108,8 @@ void addConditions(Tour& tour) {
             [] { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()); },
             [&tour] {
               auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-              dialog->findChild<QLineEdit*>()->setText(tour.output() + QStringLiteral("/tour.set"));
+              // Without its extension, which the program adds.
+              dialog->findChild<QLineEdit*>()->setText(tour.output() + QStringLiteral("/tour"));
               QMetaObject::invokeMethod(dialog, "accept");
             }});
   tour.add({"the dialog shows them; set",

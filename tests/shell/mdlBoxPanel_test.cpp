@@ -148,10 +148,11 @@ TEST_F(BoxPanel, PlacesOfThePanels) {
 }
 
 TEST_F(BoxPanel, TheFrameGrowsForItsWindowsAsFarAsTheScreenAllows) {
-  const std::pair<FrameRoom, int> rows[] = {{{0, 1, 160, 899}, 0},     {{100, 100, 260, 899}, 0},
-                                            {{101, 100, 260, 899}, 9}, {{200, 1, 160, 899}, 207},
-                                            {{740, 1, 160, 899}, 739}, {{200, 1, 899, 899}, 0},
-                                            {{200, 1, 950, 899}, 0}};
+  const std::pair<FrameRoom, int> rows[] = {
+      {{true, 0, 1, 160, 899}, 0},     {{true, 100, 100, 260, 899}, 0},
+      {{true, 101, 100, 260, 899}, 9}, {{true, 200, 1, 160, 899}, 207},
+      {{true, 740, 1, 160, 899}, 739}, {{true, 200, 1, 899, 899}, 0},
+      {{true, 200, 1, 950, 899}, 0},   {{false, 200, 1, 160, 899}, 0}};
   for (const auto& [room, growth] : rows) EXPECT_EQ(frameGrowth(room), growth) << room.lowest;
 }
 
