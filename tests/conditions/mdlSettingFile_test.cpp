@@ -294,8 +294,10 @@ TEST_F(SettingFile, Saves) {
   EXPECT_FALSE(save(controls, ""));
   EXPECT_EQ(takeLog(), dialog + "[/nonexistent]|");
   EXPECT_FALSE(save(controls, inFolder("a.b/plain")));
-  EXPECT_EQ(takeLog(),
-            dialog + "[/nonexistent]|box[File Error][Error has occurred.|<>/a.b/plain.set][ok][exclamation]|");
+  EXPECT_EQ(
+      takeLog(),
+      dialog +
+          "[/nonexistent]|box[File Error][Error has occurred.|<>/a.b/plain.set][ok][exclamation]|");
   EXPECT_TRUE(save(controls, inFolder("plain")));
   EXPECT_EQ(DataFolder::bytesOf(inFolder("plain.set")), bytes);
   EXPECT_EQ(takeLog(), dialog + "[/nonexistent]|");
@@ -327,8 +329,10 @@ TEST_F(SettingFile, Loads) {
   EXPECT_FALSE(load(kVk240Q, ""));
   EXPECT_EQ(takeLog(), dialog + "[/nonexistent]|");
   EXPECT_FALSE(load(kVk240Q, inFolder("none")));
-  EXPECT_EQ(takeLog(),
-            dialog + "[/nonexistent]|box[File Error][File does not exist.|<>/none.set][ok][exclamation]|");
+  EXPECT_EQ(
+      takeLog(),
+      dialog +
+          "[/nonexistent]|box[File Error][File does not exist.|<>/none.set][ok][exclamation]|");
   EXPECT_EQ(row(), MeasureSetting{});
 
   for (const int32_t model : {kNoModel, int32_t{kVk480Qe}}) {
