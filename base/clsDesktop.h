@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-#include "base/clsPicture.h"
+#include "base/clsCanvas.h"
 
 namespace vk {
 

@@ -127,7 +127,7 @@ int32_t progressPercent(double fraction, bool showFull) {
   return showFull ? percent : std::clamp(percent, 1, 99);
 }
 
-void progressBar(clsPicture& picture, double fraction, bool showFull) {
+void progressBar(clsSurface& picture, double fraction, bool showFull) {
   const auto percent = progressPercent(fraction, showFull);
   const auto text = textOf(percent) + "%";
   picture.clear(kBarBack);

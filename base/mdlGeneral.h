@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "base/clsDesktop.h"
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
 
 namespace vk {
 
@@ -55,6 +55,6 @@ void waitSeconds(double seconds);
 /// 0 to 100 for a fraction; without showFull 100 shows as 99 and 0 as 1.
 int32_t progressPercent(double fraction, bool showFull);
 /// Draws the bar and its centred "nn%" whose colour flips where the bar covers it.
-void progressBar(clsPicture& picture, double fraction, bool showFull);
+void progressBar(clsSurface& picture, double fraction, bool showFull);
 
 }  // namespace vk

@@ -210,7 +210,7 @@ int clsPictureBox::textHeight(const std::string&) const {
   return fontMetrics().height();
 }
 
-void clsPictureBox::copy(const clsPicture& from, int x, int y, int width, int height, int fromX,
+void clsPictureBox::copy(const clsSurface& from, int x, int y, int width, int height, int fromX,
                          int fromY) {
   const auto& source = static_cast<const clsPictureBox&>(from);
   fitImage();

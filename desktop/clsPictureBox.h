@@ -9,14 +9,14 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
 
 namespace vk {
 
 QColor toQColor(Colour colour);
 Colour fromQColor(const QColor& colour);
 
-class clsPictureBox : public QWidget, public clsPicture {
+class clsPictureBox : public QWidget, public clsSurface {
   Q_OBJECT
 
  public:
@@ -44,7 +44,7 @@ class clsPictureBox : public QWidget, public clsPicture {
   void text(int x, int y, const std::string& text, Colour colour) override;
   int textWidth(const std::string& text) const override;
   int textHeight(const std::string& text) const override;
-  void copy(const clsPicture& from, int x, int y, int width, int height, int fromX,
+  void copy(const clsSurface& from, int x, int y, int width, int height, int fromX,
             int fromY) override;
   void refresh() override;
 

@@ -157,7 +157,7 @@ std::string BarMonitor::scaleText(std::size_t bar) const {
 
 // --- picture ------------------------------------------------------------------------------------
 
-void BarMonitor::show(clsPicture& wave, clsPicture& sub) {
+void BarMonitor::show(clsSurface& wave, clsSurface& sub) {
   if (blankSub_) sub.clear(record_.BAR_BACK);
   if (blankWave_) wave.clear(record_.BAR_BACK);
   blankSub_ = false;
@@ -177,7 +177,7 @@ float BarMonitor::rowOf(const Bar& bar, float value) const {
   return -value * bar.scaleY + static_cast<float>(centerY_ + bar.gndOffsetPx);
 }
 
-void BarMonitor::drawBars(clsPicture& wave, clsPicture& sub) const {
+void BarMonitor::drawBars(clsSurface& wave, clsSurface& sub) const {
   for (std::size_t i = 0; i < kBars; ++i) {
     const auto& bar = bars_[i];
     if (!bar.drawn) continue;
@@ -190,7 +190,7 @@ void BarMonitor::drawBars(clsPicture& wave, clsPicture& sub) const {
   drawZero(wave, centerY_ + bars_[0].gndOffsetPx);
 }
 
-void BarMonitor::drawMarks(clsPicture& sub, std::size_t index) const {
+void BarMonitor::drawMarks(clsSurface& sub, std::size_t index) const {
   const auto draw = [&](float value, Colour colour) {
     const auto mark = markAt(rowOf(bars_[index], value), height_, colour);
     sub.line(edges_.left[index], mark.row, edges_.right[index], mark.row, mark.colour);
@@ -199,7 +199,7 @@ void BarMonitor::drawMarks(clsPicture& sub, std::size_t index) const {
   draw(bars_[index].extremes.min, kMinColour);
 }
 
-void BarMonitor::drawZero(clsPicture& wave, int32_t row) const {
+void BarMonitor::drawZero(clsSurface& wave, int32_t row) const {
   wave.line(0, row, width_, row, record_.BAR_GND);
 }
 

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
 #include "monitors/mdlMonitorPicture.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "monitors/mdlMonitorValue.h"
@@ -46,7 +46,7 @@ class BarMonitor {
   void moveGround(int32_t position);
 
   /// Draws what has changed since the last call, by way of the twin.
-  void show(clsPicture& wave, clsPicture& sub);
+  void show(clsSurface& wave, clsSurface& sub);
   /// Text for the bar's value, when it has changed since the last call.
   std::optional<std::string> newValueText(std::size_t bar) { return bars_.at(bar).label.take(); }
   /// True once after the bar has lost its box: its unit goes.
@@ -73,9 +73,9 @@ class BarMonitor {
   void setScales();
   bool takeBar(std::size_t index, std::string_view reading);
   float rowOf(const Bar& bar, float value) const;
-  void drawBars(clsPicture& wave, clsPicture& sub) const;
-  void drawMarks(clsPicture& sub, std::size_t index) const;
-  void drawZero(clsPicture& wave, int32_t row) const;
+  void drawBars(clsSurface& wave, clsSurface& sub) const;
+  void drawMarks(clsSurface& sub, std::size_t index) const;
+  void drawZero(clsSurface& wave, int32_t row) const;
 
   BarMonitorRec& record_;
   std::array<Bar, kBars> bars_;

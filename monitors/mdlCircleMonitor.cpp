@@ -39,11 +39,11 @@ Lamp lampOf(int centerX, int centerY) {
           toRow(centerX + centerX / 1.5), toRow(centerY + centerY / 2.0)};
 }
 
-void fillLamp(clsPicture& picture, const Lamp& lamp, int inset, Colour colour) {
+void fillLamp(clsSurface& picture, const Lamp& lamp, int inset, Colour colour) {
   picture.filledBox(lamp.left + inset, lamp.top + inset, lamp.right - 1, lamp.bottom - 1, colour);
 }
 
-void copyAll(const clsPicture& from, clsPicture& to) {
+void copyAll(const clsSurface& from, clsSurface& to) {
   to.copy(from, 0, 0, to.width(), to.height(), 0, 0);
 }
 
@@ -132,7 +132,7 @@ void CircleMonitor::drawEmpty(CirclePictures pictures, CircleColours colours) {
   drawn_.reset();
 }
 
-void CircleMonitor::drawDial(clsPicture& dial, CircleColours colours) const {
+void CircleMonitor::drawDial(clsSurface& dial, CircleColours colours) const {
   constexpr int kHubFrom = 40;
   constexpr int kHubTo = 240;
   constexpr int kMinorLength = 5;
@@ -150,14 +150,14 @@ void CircleMonitor::drawDial(clsPicture& dial, CircleColours colours) const {
   drawTicks(dial, kMajorStep, dialRadius_ - 1, dialRadius_ - 1 - kMinorLength, record_.CRL_GND);
 }
 
-void CircleMonitor::drawLampFrame(clsPicture& dial, CircleColours colours) const {
+void CircleMonitor::drawLampFrame(clsSurface& dial, CircleColours colours) const {
   const auto lamp = lampOf(centerX_, centerY_);
   dial.box(lamp.left, lamp.top, lamp.right, lamp.bottom, kShade);
   dial.line(lamp.right, lamp.top, lamp.right, lamp.bottom, colours.button);
   dial.line(lamp.left, lamp.bottom, lamp.right + 1, lamp.bottom, colours.button);
 }
 
-void CircleMonitor::drawTicks(clsPicture& dial, int stepDegrees, int from, int to,
+void CircleMonitor::drawTicks(clsSurface& dial, int stepDegrees, int from, int to,
                               Colour colour) const {
   for (int d = 0; d <= static_cast<int>(kSweepDegrees); d += stepDegrees) {
     const double sine = std::sin(d * degToRad_);
@@ -192,14 +192,14 @@ CircleMonitor::Point CircleMonitor::pointAt(Axis axis, double part) const {
   return {toRow(centerX_ + part * axis.x), toRow(centerY_ + part * axis.y)};
 }
 
-void CircleMonitor::lineAlong(clsPicture& picture, Axis axis, double from, double to,
+void CircleMonitor::lineAlong(clsSurface& picture, Axis axis, double from, double to,
                               Colour colour) const {
   const auto start = pointAt(axis, from);
   const auto end = pointAt(axis, to);
   picture.line(start.x, start.y, end.x, end.y, colour);
 }
 
-void CircleMonitor::drawMark(clsPicture& sub, float value, Colour colour) const {
+void CircleMonitor::drawMark(clsSurface& sub, float value, Colour colour) const {
   // Also on a reversed dial, whose needle keeps to the other order.
   std::optional<Side> side;
   if (static_cast<double>(value) < record_.CRL_OFFSET) {

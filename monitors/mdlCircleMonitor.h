@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
 #include "monitors/mdlMonitorPicture.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "monitors/mdlMonitorValue.h"
@@ -19,9 +19,9 @@ namespace vk {
 
 /// All three have the same size.
 struct CirclePictures {
-  clsPicture& wave;  ///< what the user sees
-  clsPicture& sub;   ///< where a reading is put together
-  clsPicture& dial;  ///< without needle and marks
+  clsSurface& wave;  ///< what the user sees
+  clsSurface& sub;   ///< where a reading is put together
+  clsSurface& dial;  ///< without needle and marks
 };
 
 /// What the dial takes from the desktop.
@@ -75,12 +75,12 @@ class CircleMonitor {
     double y;
   };
 
-  void drawDial(clsPicture& dial, CircleColours colours) const;
-  void drawTicks(clsPicture& dial, int stepDegrees, int from, int to, Colour colour) const;
-  void drawLampFrame(clsPicture& dial, CircleColours colours) const;
+  void drawDial(clsSurface& dial, CircleColours colours) const;
+  void drawTicks(clsSurface& dial, int stepDegrees, int from, int to, Colour colour) const;
+  void drawLampFrame(clsSurface& dial, CircleColours colours) const;
   void drawNeedle(CirclePictures pictures) const;
-  void drawMark(clsPicture& sub, float value, Colour colour) const;
-  void lineAlong(clsPicture& picture, Axis axis, double from, double to, Colour colour) const;
+  void drawMark(clsSurface& sub, float value, Colour colour) const;
+  void lineAlong(clsSurface& picture, Axis axis, double from, double to, Colour colour) const;
   Point pointAt(Axis axis, double part) const;
   Axis axisOf(float value) const;
   Axis peggedAxis(Side side) const;

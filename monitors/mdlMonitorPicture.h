@@ -5,7 +5,8 @@
 
 #include <cstdint>
 
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
+#include "base/mdlAxis.h"
 
 namespace vk {
 
@@ -37,11 +38,11 @@ int32_t groundShift(float full, int32_t halfDivisions, float scale);
 float groundLevel(float full, int32_t halfDivisions);
 
 /// Dotted lines at every division, upright ones and then level ones.
-void drawDivisions(clsPicture& picture, int32_t centerX, int32_t centerY, Colour colour);
+void drawDivisions(clsSurface& picture, int32_t centerX, int32_t centerY, Colour colour);
 /// Dotted lines through the centre.
-void drawCentre(clsPicture& picture, int32_t centerX, int32_t centerY, Colour colour);
+void drawCentre(clsSurface& picture, int32_t centerX, int32_t centerY, Colour colour);
 /// A level line pair at each division of `height`, which may be less than the picture's.
-void drawLevels(clsPicture& picture, int32_t centerY, int32_t height, Colour colour);
+void drawLevels(clsSurface& picture, int32_t centerY, int32_t height, Colour colour);
 
 /// Where and how the mark of an extreme is drawn: in its row, or in yellow at the edge beyond which
 /// it lies.

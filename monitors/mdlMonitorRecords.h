@@ -10,7 +10,7 @@
 #include <span>
 #include <string>
 
-#include "base/clsPicture.h"
+#include "base/clsCanvas.h"
 #include "recorder/mdlMeasureSetting.h"
 
 namespace vk {

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "monitors/mdlMonitorValue.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 #include "base/mdlText.h"
 #include "recorder/mdlBoxTable.h"
 #include "recorder/mdlCodeTables.h"
@@ -16,7 +12,6 @@ namespace {
 constexpr float kTenth = 10.0F;
 constexpr float kHalfVoltFactor = 4.0F;
 constexpr int16_t kHalfVolt = 1;
-constexpr double kFarOff = 1000000.0;
 
 /// The record behind slot and channel; null when one of them does not exist.
 const MeasureSetting* boxOf(int32_t slot, int32_t channel) {
@@ -86,16 +81,6 @@ std::optional<std::string> ReadingLabel::take() {
       return "---";
   }
   return "";
-}
-
-int32_t toShift(double pixels) {
-  using Limits = std::numeric_limits<int32_t>;
-  if (std::isnan(pixels)) return 0;
-  return roundWhole(std::clamp(pixels, double{Limits::min()}, double{Limits::max()}));
-}
-
-int32_t toRow(double pixels) {
-  return std::isnan(pixels) ? 0 : roundWhole(std::clamp(pixels, -kFarOff, kFarOff));
 }
 
 std::string monitorCaption(std::size_t index, std::string_view caption) {

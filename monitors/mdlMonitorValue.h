@@ -65,11 +65,6 @@ class ReadingLabel {
   State taken_;
 };
 
-/// Ties to even, within plus and minus a million: far off every surface, and safe to add up.
-int32_t toRow(double pixels);
-/// The same within 32 bits, for a shift that may be larger than every picture.
-int32_t toShift(double pixels);
-
 std::string monitorCaption(std::size_t index, std::string_view caption);
 /// The user's title out of a window's caption.
 std::string titleOfCaption(std::string_view windowCaption, std::size_t index);

@@ -29,7 +29,7 @@ std::string signedTextOf(Value value, int32_t point) {
 /// Ends where the measure is within the tolerance, or before the step that would turn round: then
 /// the smaller of the two sizes stands.
 template <typename Measure>
-void walkFont(clsPicture& picture, int wanted, int tolerance, Measure measure) {
+void walkFont(clsSurface& picture, int wanted, int tolerance, Measure measure) {
   int size = std::clamp(picture.fontSize(), 1, kLargestFont);
   int direction = 0;
   while (true) {
@@ -153,7 +153,7 @@ void NumMonitor::lookAs(Shown shown) {
 
 // --- showing --------------------------------------------------------------------------------
 
-bool NumMonitor::show(clsPicture& monitor, clsPicture& sub) {
+bool NumMonitor::show(clsSurface& monitor, clsSurface& sub) {
   if (!changed_) return false;
   changed_ = false;
   const int width = monitor.width();
@@ -180,7 +180,7 @@ bool NumMonitor::show(clsPicture& monitor, clsPicture& sub) {
   return true;
 }
 
-void NumMonitor::drawNumValue(clsPicture& sub, int monitorWidth, int monitorHeight) const {
+void NumMonitor::drawNumValue(clsSurface& sub, int monitorWidth, int monitorHeight) const {
   const std::string text = signedText(mean_, record_.NUM_POINT);
   sub.text(0, (monitorHeight - sub.textHeight(text)) / 2, text, sub_.fore);
   // Printed at the left, the number moves to the right edge, whatever is beside it goes.
@@ -216,7 +216,7 @@ std::optional<std::string> NumMonitor::takeUnitText() {
 
 // --- size -----------------------------------------------------------------------------------
 
-void fitValueFont(clsPicture& picture) {
+void fitValueFont(clsSurface& picture) {
   constexpr int kHeightTolerance = 4;
   constexpr int kWidthTolerance = 10;
   walkFont(picture, picture.height(), kHeightTolerance,
@@ -227,7 +227,7 @@ void fitValueFont(clsPicture& picture) {
   if (byHeight < picture.fontSize()) picture.setFontSize(byHeight);
 }
 
-void fitUnitFont(clsPicture& picture) {
+void fitUnitFont(clsSurface& picture) {
   constexpr int kTolerance = 5;
   walkFont(picture, picture.width(), kTolerance, [&] { return picture.textWidth(kWidestUnit); });
   // A wide low surface has no room for letters of its width.
@@ -235,7 +235,7 @@ void fitUnitFont(clsPicture& picture) {
     picture.setFontSize(picture.fontSize() - 1);
 }
 
-int unitLineHeight(const clsPicture& picture) {
+int unitLineHeight(const clsSurface& picture) {
   return picture.textHeight(kWidestUnit);
 }
 

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
 #include "monitors/mdlMonitorPicture.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "monitors/mdlMonitorValue.h"
@@ -33,7 +33,7 @@ class NumMonitor {
   /// The next show() draws even though nothing has changed: the surfaces have.
   void drawAgain() { changed_ = true; }
   /// Draws into the hidden twin and from there to the visible picture; false when nothing changed.
-  bool show(clsPicture& monitor, clsPicture& sub);
+  bool show(clsSurface& monitor, clsSurface& sub);
 
   /// New text of a label, if it was asked for since the last call.
   std::optional<std::string> takeMaxText() { return takeHold(maxLabel_); }
@@ -60,7 +60,7 @@ class NumMonitor {
   void finishMean(double mean);
   void judge(double mean);
   void lookAs(Shown shown);
-  void drawNumValue(clsPicture& sub, int monitorWidth, int monitorHeight) const;
+  void drawNumValue(clsSurface& sub, int monitorWidth, int monitorHeight) const;
 
   const NumMonitorRec& record_;
   int32_t slot_ = 0;
@@ -90,11 +90,11 @@ std::string signedText(float value, int32_t point);
 std::string signedText(double value, int32_t point);
 
 /// Walks the font of the picture, a point a step, until the widest expected number fits.
-void fitValueFont(clsPicture& picture);
+void fitValueFont(clsSurface& picture);
 /// The same for the widest expected unit, whose line stays within the picture.
-void fitUnitFont(clsPicture& picture);
+void fitUnitFont(clsSurface& picture);
 /// Height of a line in the font of the unit.
-int unitLineHeight(const clsPicture& picture);
+int unitLineHeight(const clsSurface& picture);
 
 /// Pixels that the column left of the number needs.
 struct NumColumn {

@@ -231,7 +231,7 @@ void WaveMonitor::show(const WavePictures& pictures) {
   overlays_ = false;
 }
 
-void WaveMonitor::showMarks(clsPicture& marks) {
+void WaveMonitor::showMarks(clsSurface& marks) {
   if (!blankMarks_ && marks_.empty()) return;
   if (blankMarks_) marks.clear(record_.WAV_BACK);
   blankMarks_ = false;
@@ -247,7 +247,7 @@ std::size_t WaveMonitor::firstVisible(int32_t& columns) const {
   return first;
 }
 
-bool WaveMonitor::showStrokes(clsPicture& sub) {
+bool WaveMonitor::showStrokes(clsSurface& sub) {
   if (strokes_.empty()) return false;
   int32_t columns = 0;
   const std::size_t first = firstVisible(columns);

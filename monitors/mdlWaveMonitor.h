@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
 #include "monitors/mdlMonitorPicture.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "monitors/mdlMonitorValue.h"
@@ -20,9 +20,9 @@
 namespace vk {
 
 struct WavePictures {
-  clsPicture& wave;   ///< what the user sees: the trace under its grid
-  clsPicture& sub;    ///< the trace alone, as wide and high
-  clsPicture& marks;  ///< the path of the extremes, as high
+  clsSurface& wave;   ///< what the user sees: the trace under its grid
+  clsSurface& sub;    ///< the trace alone, as wide and high
+  clsSurface& marks;  ///< the path of the extremes, as high
 };
 
 class WaveMonitor {
@@ -72,8 +72,8 @@ class WaveMonitor {
   void addMark(float value, Colour colour);
   void blank();
   std::size_t firstVisible(int32_t& columns) const;
-  void showMarks(clsPicture& marks);
-  bool showStrokes(clsPicture& sub);
+  void showMarks(clsSurface& marks);
+  bool showStrokes(clsSurface& sub);
 
   WaveMonitorRec& record_;
   int32_t slot_ = 0;

@@ -18,7 +18,7 @@ constexpr std::size_t kX = 1;
 
 // --- set-up ---------------------------------------------------------------------------------
 
-void XYMonitor::init(const std::array<int32_t, kXYAxes>& slots, clsPicture& sub) {
+void XYMonitor::init(const std::array<int32_t, kXYAxes>& slots, clsSurface& sub) {
   for (std::size_t i = 0; i < kXYAxes; ++i) {
     axes_[i].slot = slots[i];
     axes_[i].wasConnected = true;
@@ -29,7 +29,7 @@ void XYMonitor::init(const std::array<int32_t, kXYAxes>& slots, clsPicture& sub)
   resize(sub.width(), sub.height(), sub);
 }
 
-void XYMonitor::resize(int width, int height, clsPicture& sub) {
+void XYMonitor::resize(int width, int height, clsSurface& sub) {
   scaleAxis(kY, height);
   scaleAxis(kX, width);
   clear(sub);
@@ -55,7 +55,7 @@ void XYMonitor::setOffset(std::size_t axis, int32_t offset) {
   shiftAxis(axis);
 }
 
-void XYMonitor::clear(clsPicture& sub) {
+void XYMonitor::clear(clsSurface& sub) {
   sub.clear(record_.XY_BACK);
   cleared_ = true;
 }
@@ -66,7 +66,7 @@ void XYMonitor::reloadUnit(std::size_t axis) {
 
 // --- readings -------------------------------------------------------------------------------
 
-void XYMonitor::take(std::span<const std::string_view> readings, clsPicture& sub) {
+void XYMonitor::take(std::span<const std::string_view> readings, clsSurface& sub) {
   if (readings[kY] == kLostReading && readings[kX] == kLostReading) return lose();
   std::array<float, kXYAxes> v{};
   for (std::size_t i = 0; i < kXYAxes; ++i) {
@@ -115,7 +115,7 @@ void XYMonitor::loseAxis(std::size_t axis) {
   overlays_ = true;
 }
 
-void XYMonitor::drawXYSample(float vy, float vx, clsPicture& sub) {
+void XYMonitor::drawXYSample(float vy, float vx, clsSurface& sub) {
   auto& down = axes_[kY];
   auto& across = axes_[kX];
   const float y = -vy * down.scale + static_cast<float>(down.centre + down.gndOffsetPx);
@@ -136,7 +136,7 @@ void XYMonitor::drawXYSample(float vy, float vx, clsPicture& sub) {
 
 // --- showing --------------------------------------------------------------------------------
 
-bool XYMonitor::show(clsPicture& wave, const clsPicture& sub) {
+bool XYMonitor::show(clsSurface& wave, const clsSurface& sub) {
   const bool changed = blank_ || sample_ || overlays_;
   if (blank_) wave.clear(record_.XY_BACK);
   if (sample_) wave.copy(sub, 0, 0, wave.width(), wave.height(), 0, 0);

@@ -13,7 +13,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
 #include "monitors/mdlMonitorPicture.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "monitors/mdlMonitorValue.h"
@@ -25,22 +25,22 @@ class XYMonitor {
   explicit XYMonitor(XYMonitorRec& record) : record_(record) {}
 
   /// A blank plot in the colours of the record; the extremes stay.
-  void init(const std::array<int32_t, kXYAxes>& slots, clsPicture& sub);
+  void init(const std::array<int32_t, kXYAxes>& slots, clsSurface& sub);
   /// Scales for a plot of this size, without the line so far.
-  void resize(int width, int height, clsPicture& sub);
+  void resize(int width, int height, clsSurface& sub);
   /// One reading for each axis.
-  void take(std::span<const std::string_view> readings, clsPicture& sub);
+  void take(std::span<const std::string_view> readings, clsSurface& sub);
   /// An axis, or both, have lost their boxes.
   void loseAxis(std::size_t axis);
   void lose();
   /// Empties the line; the plot follows with the next sample.
-  void clear(clsPicture& sub);
+  void clear(clsSurface& sub);
   /// The slider of an axis; the line so far stays where it is.
   void setOffset(std::size_t axis, int32_t offset);
   void reloadUnit(std::size_t axis);
 
   /// False when nothing changed.
-  bool show(clsPicture& wave, const clsPicture& sub);
+  bool show(clsSurface& wave, const clsSurface& sub);
   bool pointerVisible() const { return pointerVisible_; }
   /// The latest point on the plot.
   int32_t pointerX() const;
@@ -73,7 +73,7 @@ class XYMonitor {
   void scaleAxis(std::size_t axis, int extent);
   void shiftAxis(std::size_t axis);
   float takeAxis(std::size_t axis, std::string_view reading);
-  void drawXYSample(float vy, float vx, clsPicture& sub);
+  void drawXYSample(float vy, float vx, clsSurface& sub);
 
   XYMonitorRec& record_;
   std::array<Axis, kXYAxes> axes_;

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/clsPicture.h"
+#include "base/clsCanvas.h"
 #include "recorder/mdlBoxTable.h"
 
 namespace vk {

@@ -65,16 +65,6 @@ TEST_F(MonitorValue, TheFirstSampleSetsOnlyTheMaximum) {
   EXPECT_EQ(steps, "5/1E+10 7/1E+10 7/7 7/6 7/-2 9/-2 ");
 }
 
-TEST_F(MonitorValue, RowsTieToEvenAndNeverOverflow) {
-  const std::pair<double, int32_t> rows[] = {{2.5, 2},
-                                             {3.5, 4},
-                                             {-0.5, 0},
-                                             {1e30, 1000000},
-                                             {-std::numeric_limits<double>::infinity(), -1000000},
-                                             {std::nan(""), 0}};
-  for (const auto& [pixels, row] : rows) EXPECT_EQ(toRow(pixels), row) << pixels;
-}
-
 TEST_F(MonitorValue, CaptionsComeBackAsTheyWere) {
   for (const std::size_t index : {0U, 8U, 9U, 31U}) {
     for (const char* caption : {"", "bridge 7", "[3] x", " "}) {

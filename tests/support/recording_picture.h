@@ -7,11 +7,11 @@
 
 #include <string>
 
-#include "base/clsPicture.h"
+#include "base/clsSurface.h"
 
 namespace vktest {
 
-class RecordingPicture : public vk::clsPicture {
+class RecordingPicture : public vk::clsSurface {
  public:
   RecordingPicture(std::string name, int width, int height)
       : name_(std::move(name)), width_(width), height_(height) {}
@@ -69,7 +69,7 @@ class RecordingPicture : public vk::clsPicture {
     return fontSize_ * static_cast<int>(text.size()) / 2;
   }
   int textHeight(const std::string&) const override { return fontSize_; }
-  void copy(const vk::clsPicture& from, int x, int y, int width, int height, int fromX,
+  void copy(const vk::clsSurface& from, int x, int y, int width, int height, int fromX,
             int fromY) override {
     note("copy {} {},{} {}x{} to {},{}", dynamic_cast<const RecordingPicture&>(from).name_, fromX,
          fromY, width, height, x, y);

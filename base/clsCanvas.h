@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A surface to draw on, in pixels; positions outside it are clipped. Colours are 0x00BBGGRR. The
-// screen, the printer and, in tests, a recording stand behind it.
+// Something to draw on, in pixels, that keeps nothing of its own to be asked for: screen, printer
+// and PDF alike. Positions outside it are clipped.
 #pragma once
 
 #include <cstdint>
@@ -12,9 +12,9 @@ using Colour = int32_t;  // 0x00BBGGRR
 
 enum class LineStyle { kSolid, kDotted };
 
-class clsPicture {
+class clsCanvas {
  public:
-  virtual ~clsPicture() = default;
+  virtual ~clsCanvas() = default;
 
   virtual int width() const = 0;
   virtual int height() const = 0;
@@ -35,9 +35,6 @@ class clsPicture {
   /// The outline, one pixel wide. Both corners belong to a box.
   virtual void box(int x1, int y1, int x2, int y2, Colour colour) = 0;
   virtual void filledBox(int x1, int y1, int x2, int y2, Colour colour) = 0;
-  /// Inverted drawing: every covered pixel is combined with the colour by exclusive or with the
-  /// complement of the colour, so that text under a bar stays readable.
-  virtual void invertedBox(int x1, int y1, int x2, int y2, Colour colour) = 0;
 
   /// In points, at least 1.
   virtual int fontSize() const = 0;
@@ -46,12 +43,6 @@ class clsPicture {
   virtual void text(int x, int y, const std::string& text, Colour colour) = 0;
   virtual int textWidth(const std::string& text) const = 0;
   virtual int textHeight(const std::string& text) const = 0;
-
-  /// Copies the block at (fromX, fromY) of a picture of the same kind, or of this one, to (x, y).
-  virtual void copy(const clsPicture& from, int x, int y, int width, int height, int fromX,
-                    int fromY) = 0;
-  /// Shows what was drawn.
-  virtual void refresh() = 0;
 };
 
 }  // namespace vk
