@@ -22,6 +22,7 @@
 #include "instrument/simulator/library.h"
 #include "link/mdlConnection.h"
 #include "monitors/frmMonitor.h"
+#include "monitors/frmMonitorForms.h"
 #include "monitors/mdlMonitorCycle.h"
 #include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
@@ -85,7 +86,7 @@ class Scene {
     area_.resize(kAreaWidth, kAreaHeight);
     expose();
     vk::gMonitorHandlers.load = [this](vk::MonitorKind kind) {
-      if (auto* form = vk::newMonitorForm(kind)) form->enter(area_);
+      if (auto* form = vk::monitorForm(kind).window()) form->enter(area_);
     };
     for (const auto kind : vk::kMonitorKinds) {
       for (std::size_t i = 0; i < vk::monitorCount(kind); ++i) open(kind, i);

@@ -9,9 +9,8 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
-#include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
-#include "monitors/mdlMonitorValue.h"
+#include "monitors/mdlBarLayout.h"
 
 namespace vk {
 
@@ -91,24 +90,24 @@ frmMoniBar::Panel frmMoniBar::buildPanel(int bar) {
 
 void frmMoniBar::buildSlider() {
   sdrYPos_ = addGroundSlider(QStringLiteral("sdrYPos"), Qt::Vertical, tr("Ground level"));
-  connect(sdrYPos_, &QSlider::valueChanged, this,
-          [this](int position) { monitor_.moveGround(position); });
+  connect(sdrYPos_, &QSlider::valueChanged, this, &frmMoniBar::sdrYPos_Change);
+}
+
+void frmMoniBar::sdrYPos_Change(int position) {
+  monitor_.moveGround(position);
 }
 
 void frmMoniBar::setInitMoniNum() {
   initCommon();
   const auto& record = gBarMoni.at(monitorIndex());
-  std::array<int32_t, kBars> boxes{};
   for (std::size_t i = 0; i < kBars; ++i) {
-    boxes[i] = boxSlot(i);
     panels_[i].lblSerNum->setText(toQt(serialLabel(record.BAR_SER[i])));
     panels_[i].lblChNum->setText(toQt(channelLabel(record.BAR_CH[i])));
   }
   putTwin(picWaveSub_, *picWave_);
-  monitor_.init(boxes, picWave_->width(), picWave_->height());
+  monitor_.resize(picWave_->width(), picWave_->height());
   for (std::size_t i = 0; i < kBars; ++i) {
     panels_[i].lblScale->setText(toQt(monitor_.scaleText(i)));
-    panels_[i].lblUnit->setText(toQt(monitor_.unitText(i)));
     fitTexts(panels_[i]);
   }
   const QSignalBlocker quiet(sdrYPos_);
@@ -118,45 +117,24 @@ void frmMoniBar::setInitMoniNum() {
   panelRow_ = panel * static_cast<int>(kBars);
 }
 
-void frmMoniBar::Monitoring(std::span<const std::string_view> readings) {
-  monitor_.take(readings);
-}
-
-void frmMoniBar::MoniDisConnect() {
-  monitor_.lose();
-}
-
 void frmMoniBar::MoniLblDisconnect(std::size_t bar) {
-  monitor_.loseBar(bar);
+  monitor_.loseChannel(bar);
 }
 
 void frmMoniBar::MoniNotUseCh() {
   monitor_.showEmpty();
 }
 
-void frmMoniBar::setUnitLabel() {
-  for (std::size_t i = 0; i < kBars; ++i) {
-    if (!isBoxSlot(boxSlot(i))) continue;
-    monitor_.takeUnitLoss(i);  // older than the text that is set here
-    panels_[i].lblUnit->setText(toQt(monitor_.unitText(i)));
-    fitTexts(panels_[i]);
+void frmMoniBar::sayLabels(std::size_t bar, const ChannelLabels& labels) {
+  const auto& panel = panels_[bar];
+  if (labels.unit) {
+    panel.lblUnit->setText(toQt(*labels.unit));
+    fitTexts(panel);
   }
-}
-
-void frmMoniBar::showReadings() {
-  for (std::size_t i = 0; i < kBars; ++i) {
-    if (monitor_.takeUnitLoss(i)) panels_[i].lblUnit->clear();
-    const auto text = monitor_.newValueText(i);
-    if (!text) continue;
-    const bool fitted = panels_[i].lblMonitor->text().size() <= kUsualValue;
-    panels_[i].lblMonitor->setText(toQt(*text));
-    if (!fitted || text->size() > kUsualValue) fitValue(panels_[i]);
-  }
-  monitor_.show(*picWave_, *picWaveSub_);
-}
-
-void frmMoniBar::clearReadings() {
-  monitor_.clear();
+  if (!labels.value) return;
+  const bool fitted = panel.lblMonitor->text().size() <= kUsualValue;
+  panel.lblMonitor->setText(toQt(*labels.value));
+  if (!fitted || labels.value->size() > kUsualValue) fitValue(panel);
 }
 
 // --- layout -------------------------------------------------------------------------------------

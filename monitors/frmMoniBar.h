@@ -2,6 +2,7 @@
 // Window of a bar monitor: four bars over their panels, and one ground level slider for all.
 #pragma once
 
+#include "desktop/clsPictureBox.h"
 #include "monitors/frmMonitor.h"
 #include "monitors/mdlBarMonitor.h"
 
@@ -16,16 +17,14 @@ class frmMoniBar : public frmMonitor {
   frmMoniBar();
 
   void setInitMoniNum() override;
-  void Monitoring(std::span<const std::string_view> readings) override;
-  void MoniDisConnect() override;
   void MoniLblDisconnect(std::size_t bar);
   void MoniNotUseCh();
-  void setUnitLabel() override;
-  void showReadings() override;
 
  protected:
+  MonitorLogic& logic() override { return monitor_; }
+  MonitorSurfaces surfaces() override { return {*picWave_, *picWaveSub_}; }
+  void sayLabels(std::size_t channel, const ChannelLabels& labels) override;
   void layoutMonitor() override;
-  void clearReadings() override;
 
  private:
   struct Panel {
@@ -39,6 +38,7 @@ class frmMoniBar : public frmMonitor {
 
   Panel buildPanel(int bar);
   void buildSlider();
+  void sdrYPos_Change(int position);
   void layoutPanel(const Panel& panel);
   void fitValue(const Panel& panel);
   void fitTexts(const Panel& panel);

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
 
 namespace vk {
@@ -18,7 +17,8 @@ constexpr int kUsualCharacters = 9;
 
 }  // namespace
 
-frmMoniCircle::frmMoniCircle() : frmMonitor(MonitorKind::kCircle, "frmMoniCircle") {
+frmMoniCircle::frmMoniCircle()
+    : frmMonitor(MonitorKind::kCircle, "frmMoniCircle"), monitor_(gCircleMoni.at(monitorIndex())) {
   buildControls();
   hideControls({picWave_, lblMonitor_, lblUnitNum_});
 }
@@ -48,53 +48,27 @@ void frmMoniCircle::buildControls() {
   lblFullScale_ = add("lblFullScale", Qt::AlignLeft);
 }
 
-CirclePictures frmMoniCircle::pictures() {
-  return {*picWave_, *picWaveSub_, *picSubCircle_};
-}
-
 void frmMoniCircle::setInitMoniNum() {
   initCommon();
   const auto& record = gCircleMoni[monitorIndex()];
   lblSerNum_->setText(toQt(serialLabel(record.CRL_SER)));
   lblChNum_->setText(toQt(channelLabel(record.CRL_CH)));
-  setUnitLabel();
   const auto scale = circleScale(record);
   lblOffSet_->setText(toQt(scale.offset));
   lbl1_3Scale_->setText(toQt(scale.oneThird));
   lbl2_3Scale_->setText(toQt(scale.twoThirds));
   lblFullScale_->setText(toQt(scale.full));
-  lblYScale_->setText(toQt(circleScaleLabel(record, unitLabel(boxSlot(), record.CRL_CH))));
-  monitor_.init(record, boxSlot());
+  lblYScale_->setText(toQt(monitor_.scaleText()));
   arrange();
-  monitor_.startAngles();
 }
 
-void frmMoniCircle::setUnitLabel() {
-  lblUnitNum_->setText(toQt(unitLabel(boxSlot(), gCircleMoni[monitorIndex()].CRL_CH)));
-}
-
-// --- readings ---------------------------------------------------------------------------------
-
-void frmMoniCircle::Monitoring(std::span<const std::string_view> readings) {
-  monitor_.take(readings.front());
-}
-
-void frmMoniCircle::MoniDisConnect() {
-  if (monitor_.lose()) lblUnitNum_->clear();
-}
-
-void frmMoniCircle::showReadings() {
-  monitor_.show(pictures());
-  const auto text = monitor_.newLabel();
-  if (!text) return;
-  const QString shown = toQt(*text);
+void frmMoniCircle::sayLabels(std::size_t, const ChannelLabels& labels) {
+  sayNew(lblUnitNum_, labels.unit);
+  if (!labels.value) return;
+  const QString shown = toQt(*labels.value);
   const QFont& font = shown.size() > kUsualCharacters ? longFont_ : usualFont_;
   if (lblMonitor_->font() != font) lblMonitor_->setFont(font);
   lblMonitor_->setText(shown);
-}
-
-void frmMoniCircle::clearReadings() {
-  monitor_.clear(pictures());
 }
 
 // --- layout -----------------------------------------------------------------------------------
@@ -142,9 +116,10 @@ void frmMoniCircle::placePictures(const CircleLayout& layout) {
   picWave_->setGeometry(dial.left, dial.top, dial.width, dial.height);
   putTwin(picWaveSub_, *picWave_);
   putTwin(picSubCircle_, *picWave_, true);
+  monitor_.setColours({fromQColor(palette().color(QPalette::Window)),
+                       fromQColor(palette().color(QPalette::Button))});
   monitor_.resize(dial.width, dial.height);
-  monitor_.drawEmpty(pictures(), {fromQColor(palette().color(QPalette::Window)),
-                                  fromQColor(palette().color(QPalette::Button))});
+  showReadings();
 }
 
 }  // namespace vk

@@ -4,7 +4,9 @@
 
 #include <QFont>
 
+#include "desktop/clsPictureBox.h"
 #include "monitors/frmMonitor.h"
+#include "monitors/mdlCircleLayout.h"
 #include "monitors/mdlCircleMonitor.h"
 
 namespace vk {
@@ -16,14 +18,12 @@ class frmMoniCircle : public frmMonitor {
   frmMoniCircle();
 
   void setInitMoniNum() override;
-  void Monitoring(std::span<const std::string_view> readings) override;
-  void MoniDisConnect() override;
-  void setUnitLabel() override;
-  void showReadings() override;
 
  protected:
+  MonitorLogic& logic() override { return monitor_; }
+  MonitorSurfaces surfaces() override { return {*picWave_, *picWaveSub_, picSubCircle_}; }
+  void sayLabels(std::size_t channel, const ChannelLabels& labels) override;
   void layoutMonitor() override;
-  void clearReadings() override;
   void paletteChanged() override { arrange(); }
 
  private:
@@ -31,7 +31,6 @@ class frmMoniCircle : public frmMonitor {
   void arrange();
   void placeValue(const CircleLayout& layout);
   void placePictures(const CircleLayout& layout);
-  CirclePictures pictures();
 
   CircleMonitor monitor_;
   clsPictureBox* picWave_ = nullptr;

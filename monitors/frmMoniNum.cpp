@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
+#include "monitors/mdlNumLayout.h"
 
 namespace vk {
 
@@ -73,7 +73,6 @@ void frmMoniNum::setInitMoniNum() {
   const auto& record = gNumMoni[monitorIndex()];
   lblSerNum_->setText(toQt(serialLabel(record.NUM_SER)));
   lblChNum_->setText(toQt(channelLabel(record.NUM_CH)));
-  monitor_.init(boxSlot());
   for (auto* hold : {picMaxMoni_, picMinMoni_}) fillWith(hold, record.NUM_BACK);
   for (auto* label : {lblMaxCap_, lblMaxMoni_, lblMinCap_, lblMinMoni_})
     setFore(label, record.NUM_FORE);
@@ -81,40 +80,25 @@ void frmMoniNum::setInitMoniNum() {
   showReadings();
 }
 
-void frmMoniNum::Monitoring(std::span<const std::string_view> readings) {
-  monitor_.take(readings[0]);
-}
-
-void frmMoniNum::MoniDisConnect() {
-  monitor_.lose();
-}
-
 void frmMoniNum::setUnitLabel() {
-  if (!isBoxSlot(boxSlot())) return;
-  monitor_.reloadUnit();
-  showReadings();
+  frmMonitor::setUnitLabel();
   fitUnitFont(*picUnit_);
   placeLabels();
 }
 
-void frmMoniNum::clearReadings() {
-  monitor_.clear();
-}
-
 // --- showing --------------------------------------------------------------------------------
 
-void frmMoniNum::showReadings() {
-  if (monitor_.show(*picMonitor_, *picMoniSub_)) showColours();
-  sayNew(lblMaxMoni_, monitor_.takeMaxText());
-  sayNew(lblMinMoni_, monitor_.takeMinText());
-  sayNew(lblUnitNum_, monitor_.takeUnitText());
-}
-
-void frmMoniNum::showColours() {
+void frmMoniNum::pictureShown() {
   setFore(lblUnitNum_, monitor_.unitFore());
   if (unitBack_ == monitor_.unitBack()) return;
   unitBack_ = monitor_.unitBack();
   fillWith(picUnit_, *unitBack_);
+}
+
+void frmMoniNum::sayLabels(std::size_t, const ChannelLabels& labels) {
+  sayNew(lblMaxMoni_, labels.max);
+  sayNew(lblMinMoni_, labels.min);
+  sayNew(lblUnitNum_, labels.unit);
 }
 
 // --- size -----------------------------------------------------------------------------------
@@ -138,7 +122,7 @@ void frmMoniNum::layoutMonitor() {
   placeLabels();
   for (auto* hold : {picMaxMoni_, picMinMoni_}) fillWith(hold, gNumMoni[monitorIndex()].NUM_BACK);
   unitBack_.reset();
-  monitor_.drawAgain();
+  monitor_.resize(all.monitor.width, all.monitor.height);
   showReadings();
   showControls();
 }

@@ -3,9 +3,8 @@
 #pragma once
 
 #include <optional>
-#include <span>
-#include <string_view>
 
+#include "desktop/clsPictureBox.h"
 #include "monitors/frmMonitor.h"
 #include "monitors/mdlNumMonitor.h"
 
@@ -20,18 +19,17 @@ class frmMoniNum : public frmMonitor {
   frmMoniNum();
 
   void setInitMoniNum() override;
-  void Monitoring(std::span<const std::string_view> readings) override;
-  void MoniDisConnect() override;
   void setUnitLabel() override;
-  void showReadings() override;
 
  protected:
+  MonitorLogic& logic() override { return monitor_; }
+  MonitorSurfaces surfaces() override { return {*picMonitor_, *picMoniSub_}; }
+  void sayLabels(std::size_t channel, const ChannelLabels& labels) override;
   void layoutMonitor() override;
-  void clearReadings() override;
+  void pictureShown() override;
 
  private:
   void placeLabels();
-  void showColours();
 
   NumMonitor monitor_;
   clsPictureBox* picMonitor_;

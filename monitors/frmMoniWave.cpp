@@ -8,9 +8,8 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
-#include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
-#include "monitors/mdlMonitorValue.h"
+#include "monitors/mdlWaveLayout.h"
 
 namespace vk {
 
@@ -59,8 +58,8 @@ void frmMoniWave::buildFrame() {
   chkOff_->setToolTip(tr("Brings the trace to the ground level"));
   column->addWidget(chkPause_);
   column->addWidget(chkOff_);
-  connect(chkPause_, &QCheckBox::toggled, this, [this](bool on) { monitor_.setPaused(on); });
-  connect(chkOff_, &QCheckBox::toggled, this, [this](bool on) { monitor_.setOffsetCancel(on); });
+  connect(chkPause_, &QCheckBox::toggled, this, &frmMoniWave::chkPause_Click);
+  connect(chkOff_, &QCheckBox::toggled, this, &frmMoniWave::chkOff_Click);
 }
 
 void frmMoniWave::buildSlider() {
@@ -74,8 +73,7 @@ void frmMoniWave::setInitMoniNum() {
   lblSerNum_->setText(toQt(serialLabel(record.WAV_SER)));
   lblChNum_->setText(toQt(channelLabel(record.WAV_CH)));
   putTwin(picWaveSub_, *picWave_);
-  monitor_.init(boxSlot(), picWave_->width(), picWave_->height());
-  setUnitLabel();
+  monitor_.resize(picWave_->width(), picWave_->height());
   lblYScale_->setText(toQt(monitor_.yScaleText()));
   lblXScale_->setText(toQt(monitor_.xScaleText()));
   lblOffSet_->setText(toQt(monitor_.offsetText()));
@@ -85,30 +83,24 @@ void frmMoniWave::setInitMoniNum() {
   chkOff_->setChecked(record.WAV_CUP_ON);
 }
 
-void frmMoniWave::Monitoring(std::span<const std::string_view> readings) {
-  monitor_.take(readings.front());
+void frmMoniWave::sayLabels(std::size_t, const ChannelLabels& labels) {
+  sayNew(lblMonitor_, labels.value);
+  sayNew(lblUnitNum_, labels.unit);
 }
 
-void frmMoniWave::MoniDisConnect() {
-  if (monitor_.lose()) lblUnitNum_->clear();
+void frmMoniWave::chkPause_Click(bool on) {
+  // What came before the click belongs to the picture that stands from now on.
+  if (on) showReadings();
+  monitor_.setPaused(on);
 }
 
-void frmMoniWave::setUnitLabel() {
-  lblUnitNum_->setText(toQt(unitLabel(boxSlot(), gWaveMoni.at(monitorIndex()).WAV_CH)));
-}
-
-void frmMoniWave::showReadings() {
-  if (const auto text = monitor_.newValueText()) lblMonitor_->setText(toQt(*text));
-  monitor_.show({*picWave_, *picWaveSub_, *picMaxMin_});
+void frmMoniWave::chkOff_Click(bool on) {
+  monitor_.setOffsetCancel(on);
 }
 
 void frmMoniWave::sdrYPos_Change(int position) {
   monitor_.moveGround(position);
   lblOffSet_->setText(toQt(monitor_.offsetText()));
-}
-
-void frmMoniWave::clearReadings() {
-  monitor_.clear();
 }
 
 void frmMoniWave::layoutMonitor() {

@@ -2,6 +2,7 @@
 // Window of a wave monitor: the strip chart, its ground level slider, offset cancel and pause.
 #pragma once
 
+#include "desktop/clsPictureBox.h"
 #include "monitors/frmMonitor.h"
 #include "monitors/mdlWaveMonitor.h"
 
@@ -17,19 +18,19 @@ class frmMoniWave : public frmMonitor {
   frmMoniWave();
 
   void setInitMoniNum() override;
-  void Monitoring(std::span<const std::string_view> readings) override;
-  void MoniDisConnect() override;
-  void setUnitLabel() override;
-  void showReadings() override;
 
  protected:
+  MonitorLogic& logic() override { return monitor_; }
+  MonitorSurfaces surfaces() override { return {*picWave_, *picWaveSub_, picMaxMin_}; }
+  void sayLabels(std::size_t channel, const ChannelLabels& labels) override;
   void layoutMonitor() override;
-  void clearReadings() override;
 
  private:
   void buildSlider();
   void buildFrame();
   void sdrYPos_Change(int position);
+  void chkPause_Click(bool on);
+  void chkOff_Click(bool on);
 
   WaveMonitor monitor_;
   clsPictureBox* picWave_;

@@ -9,9 +9,7 @@
 #include <QSlider>
 #include <algorithm>
 
-#include "desktop/clsPictureBox.h"
 #include "desktop/qtText.h"
-#include "recorder/mdlBoxTable.h"
 
 namespace vk {
 
@@ -103,7 +101,7 @@ void frmMoniX_Y::setInitMoniNum() {
   initCommon();
   const auto& record = gXYMoni[monitorIndex()];
   putTwin(picWaveSub_, *picWave_);
-  monitor_.init({boxSlot(0), boxSlot(1)}, *picWaveSub_);
+  monitor_.resize(picWave_->width(), picWave_->height());
   for (std::size_t i = 0; i < kXYAxes; ++i) {
     auto& block = axes_[i];
     block.lblSerNum->setText(QLatin1String(kAxisLetters[i]) + QLatin1Char(' ') +
@@ -119,44 +117,24 @@ void frmMoniX_Y::setInitMoniNum() {
   showReadings();
 }
 
-void frmMoniX_Y::Monitoring(std::span<const std::string_view> readings) {
-  monitor_.take(readings, *picWaveSub_);
-}
-
-void frmMoniX_Y::MoniDisConnect() {
-  monitor_.lose();
-}
-
 void frmMoniX_Y::MoniLblDisconnect(std::size_t axis) {
-  monitor_.loseAxis(axis);
-}
-
-void frmMoniX_Y::setUnitLabel() {
-  for (std::size_t i = 0; i < kXYAxes; ++i) {
-    if (isBoxSlot(boxSlot(i))) monitor_.reloadUnit(i);
-  }
-  showReadings();
-}
-
-void frmMoniX_Y::clearReadings() {
-  monitor_.clear(*picWaveSub_);
+  monitor_.loseChannel(axis);
 }
 
 void frmMoniX_Y::sdrPos_Change(std::size_t axis, int value) {
-  monitor_.setOffset(axis, value);
+  monitor_.moveGround(axis, value);
   axes_[axis].lblOffSet->setText(toQt(monitor_.offsetText(axis)));
 }
 
-void frmMoniX_Y::showReadings() {
-  if (monitor_.show(*picWave_, *picWaveSub_)) {
-    shpPoint_->move(monitor_.pointerX() - shpPoint_->width() / 2,
-                    monitor_.pointerY() - shpPoint_->height() / 2);
-    shpPoint_->setVisible(monitor_.pointerVisible());
-  }
-  for (std::size_t i = 0; i < kXYAxes; ++i) {
-    if (const auto text = monitor_.takeValueText(i)) sayValue(axes_[i], toQt(*text));
-    sayNew(axes_[i].lblUnitNum, monitor_.takeUnitText(i));
-  }
+void frmMoniX_Y::pictureShown() {
+  shpPoint_->move(monitor_.pointerX() - shpPoint_->width() / 2,
+                  monitor_.pointerY() - shpPoint_->height() / 2);
+  shpPoint_->setVisible(monitor_.pointerVisible());
+}
+
+void frmMoniX_Y::sayLabels(std::size_t axis, const ChannelLabels& labels) {
+  if (labels.value) sayValue(axes_[axis], toQt(*labels.value));
+  sayNew(axes_[axis].lblUnitNum, labels.unit);
 }
 
 void frmMoniX_Y::sayValue(const Block& block, const QString& text) {
@@ -183,7 +161,7 @@ void frmMoniX_Y::layoutMonitor() {
   putTwin(picWaveSub_, *picWave_);
   for (std::size_t i = 0; i < kXYAxes; ++i) put(axes_[i].sdrPos, all.slider[i]);
   placeLabels(all);
-  monitor_.resize(all.wave.width, all.wave.height, *picWaveSub_);
+  monitor_.resize(all.wave.width, all.wave.height);
   showReadings();
   showControls();
 }

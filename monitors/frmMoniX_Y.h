@@ -4,10 +4,10 @@
 
 #include <QFont>
 #include <array>
-#include <span>
-#include <string_view>
 
+#include "desktop/clsPictureBox.h"
 #include "monitors/frmMonitor.h"
+#include "monitors/mdlXYLayout.h"
 #include "monitors/mdlXYMonitor.h"
 
 class QSlider;
@@ -23,15 +23,14 @@ class frmMoniX_Y : public frmMonitor {
   frmMoniX_Y();
 
   void setInitMoniNum() override;
-  void Monitoring(std::span<const std::string_view> readings) override;
-  void MoniDisConnect() override;
   void MoniLblDisconnect(std::size_t axis);
-  void setUnitLabel() override;
-  void showReadings() override;
 
  protected:
+  MonitorLogic& logic() override { return monitor_; }
+  MonitorSurfaces surfaces() override { return {*picWave_, *picWaveSub_}; }
+  void sayLabels(std::size_t channel, const ChannelLabels& labels) override;
   void layoutMonitor() override;
-  void clearReadings() override;
+  void pictureShown() override;
 
  private:
   /// The labels of an axis in the column beside the plot.

@@ -12,6 +12,7 @@
 #include <QSlider>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <vector>
 
 #include "base/clsDesktop.h"
 #include "base/mdlTwips.h"
@@ -75,12 +76,25 @@ frmMonitor::~frmMonitor() {
 // --- life -----------------------------------------------------------------------------------
 
 void frmMonitor::enter(QMdiArea& area) {
+  const auto place = openingPlaceIn(area);
   auto* window = area.addSubWindow(this);
-  const auto record = fields();
   const QPoint scrolled = scrollOf(*window);
-  window->setGeometry(placeOf(record.left) - scrolled.x(), placeOf(record.top) - scrolled.y(),
-                      sizeOf(record.width), sizeOf(record.height));
+  window->setGeometry(place.left - scrolled.x(), place.top - scrolled.y(), place.width,
+                      place.height);
   desktop().doEvents();
+}
+
+MonitorPlace frmMonitor::openingPlaceIn(QMdiArea& area) const {
+  std::vector<MonitorPlace> others;
+  for (const auto* window : area.subWindowList()) {
+    if (!window->isVisible()) continue;
+    const QPoint at = window->pos() + scrollOf(*window);
+    others.push_back({at.x(), at.y(), window->width(), window->height()});
+  }
+  const auto record = fields();
+  return openingPlace(
+      {placeOf(record.left), placeOf(record.top), sizeOf(record.width), sizeOf(record.height)},
+      others, area.viewport()->width(), area.viewport()->height());
 }
 
 QMdiSubWindow* frmMonitor::child() const {
@@ -146,6 +160,29 @@ void frmMonitor::initCommon() {
   for (std::size_t i = 0; i < record.serial.size(); ++i) {
     boxSlot_[i] = slotIndexOf(record.serial[i]);
   }
+  logic().init(std::span(boxSlot_).first(record.serial.size()));
+}
+
+// --- readings ---------------------------------------------------------------------------------
+
+void frmMonitor::Monitoring(std::span<const std::string_view> readings) {
+  logic().take(readings);
+}
+
+void frmMonitor::MoniDisConnect() {
+  logic().lose();
+}
+
+void frmMonitor::setUnitLabel() {
+  for (std::size_t i = 0; i < fields().serial.size(); ++i) {
+    if (isBoxSlot(boxSlot_[i])) logic().reloadUnit(i);
+  }
+  showReadings();
+}
+
+void frmMonitor::showReadings() {
+  if (logic().show(surfaces())) pictureShown();
+  for (std::size_t i = 0; i < fields().serial.size(); ++i) sayLabels(i, logic().labels(i));
 }
 
 // --- size -----------------------------------------------------------------------------------
@@ -224,10 +261,17 @@ QVBoxLayout* frmMonitor::addFrame(const char* clearButton) {
     column->addWidget(button);
     return button;
   };
-  connect(add("cmdSet", tr("Set")), &QPushButton::clicked, this,
-          [this] { openMonitorSetting(kind_, monitorIndex_, window()); });
-  connect(add(clearButton, tr("Clear")), &QPushButton::clicked, this, [this] { clearReadings(); });
+  connect(add("cmdSet", tr("Set")), &QPushButton::clicked, this, &frmMonitor::cmdSet_Click);
+  connect(add(clearButton, tr("Clear")), &QPushButton::clicked, this, &frmMonitor::cmdReset_Click);
   return column;
+}
+
+void frmMonitor::cmdSet_Click() {
+  openMonitorSetting(kind_, monitorIndex_, window());
+}
+
+void frmMonitor::cmdReset_Click() {
+  logic().clear();
 }
 
 void frmMonitor::sayNew(QLabel* label, const std::optional<std::string>& text) {

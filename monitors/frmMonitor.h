@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the five kinds of monitor window share: the life of the window and its record, the caption,
 // the frame with its buttons, and the layout that follows a change of size once it has settled. A
-// kind adds its surfaces and labels and hands readings to its logic.
+// kind adds its surfaces, its labels and its logic.
 #pragma once
 
 #include <QList>
@@ -12,7 +12,8 @@
 #include <string>
 
 #include "monitors/mdlMonitorCycle.h"
-#include "monitors/mdlMonitorPicture.h"
+#include "monitors/mdlMonitorLogic.h"
+#include "monitors/mdlMonitorPlace.h"
 
 class QFrame;
 class QLabel;
@@ -38,6 +39,10 @@ class frmMonitor : public QWidget, public MonitorWindow {
   /// Place, size and title into the record.
   void saveMonitorForm();
 
+  void Monitoring(std::span<const std::string_view> readings) override;
+  void MoniDisConnect() override;
+  void setUnitLabel() override;
+  void showReadings() override;
   void showWindow() override;
   void hideWindow() override;
   void unload() override;
@@ -48,10 +53,14 @@ class frmMonitor : public QWidget, public MonitorWindow {
 
   std::size_t monitorIndex() const { return monitorIndex_; }
   MonitorFields fields() const { return monitorFields(kind_, monitorIndex_); }
-  /// Row of the box table for a channel of the monitor (from 0), looked up by findBoxSlots.
-  int32_t boxSlot(std::size_t channel = 0) const { return boxSlot_[channel]; }
+  /// The logic of the kind, and the surfaces that it draws on.
+  virtual MonitorLogic& logic() = 0;
+  virtual MonitorSurfaces surfaces() = 0;
+  /// Something was drawn.
+  virtual void pictureShown() {}
+  virtual void sayLabels(std::size_t channel, const ChannelLabels& labels) = 0;
 
-  /// The common part of setInitMoniNum: caption, box slots.
+  /// The common part of setInitMoniNum: caption, rows of the box table, and the logic's own.
   void initCommon();
   /// Fits surfaces, scales and labels to the size of the form; clears the trace.
   virtual void layoutMonitor() = 0;
@@ -59,9 +68,6 @@ class frmMonitor : public QWidget, public MonitorWindow {
   virtual void paletteChanged() {}
   /// Kinds that keep their place at every layout call this first.
   void storePlace();
-
-  /// The Clear button.
-  virtual void clearReadings() = 0;
 
   /// A small label of the form (or of `parent`) with its control name, without a text.
   QLabel* addLabel(const QString& name, QWidget* parent = nullptr);
@@ -90,19 +96,19 @@ class frmMonitor : public QWidget, public MonitorWindow {
 
  private:
   void tmrResize_Timer();
+  void cmdSet_Click();
+  void cmdReset_Click();
+  MonitorPlace openingPlaceIn(QMdiArea& area) const;
   void leaveList();
   QMdiSubWindow* child() const;
 
   const MonitorKind kind_;
   const std::size_t monitorIndex_;
-  std::array<int32_t, kBars> boxSlot_{};
+  std::array<int32_t, kMostChannels> boxSlot_{};  ///< of each channel, as last initialised
   QTimer* tmrResize_;
   int64_t lastResize_ = 0;
   QFrame* fraSet_ = nullptr;
   QList<QWidget*> surfaces_;
 };
-
-/// The form of a kind, for the record of gMoniLoadIndex.
-frmMonitor* newMonitorForm(MonitorKind kind);
 
 }  // namespace vk

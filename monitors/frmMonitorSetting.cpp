@@ -19,11 +19,7 @@
 #include "desktop/clsPictureBox.h"
 #include "desktop/clsQuietList.h"
 #include "desktop/qtText.h"
-#include "monitors/frmMoniBarSet.h"
-#include "monitors/frmMoniCircleSet.h"
-#include "monitors/frmMoniNumSet.h"
-#include "monitors/frmMoniWavSet.h"
-#include "monitors/frmMoniX_YSet.h"
+#include "monitors/frmMonitorForms.h"
 #include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorValue.h"
 #include "recorder/mdlBoxTable.h"
@@ -33,22 +29,6 @@ namespace vk {
 namespace {
 
 constexpr int kListedAtOnce = 12;
-
-frmMonitorSetting* newSettingDialog(MonitorKind kind, QWidget* parent) {
-  switch (kind) {
-    case MonitorKind::kNumerical:
-      return new frmMoniNumSet(parent);
-    case MonitorKind::kWave:
-      return new frmMoniWavSet(parent);
-    case MonitorKind::kXY:
-      return new frmMoniX_YSet(parent);
-    case MonitorKind::kBar:
-      return new frmMoniBarSet(parent);
-    case MonitorKind::kCircle:
-      break;
-  }
-  return new frmMoniCircleSet(parent);
-}
 
 // Only what the user changed goes back: a text has fewer digits than the number it shows.
 void storeNumber(const QString& text, float fallback, float& number) {
@@ -68,7 +48,7 @@ void openMonitorSetting(MonitorKind kind, std::size_t index, QWidget* parent) {
   static std::array<QPointer<frmMonitorSetting>, kMonitorKinds.size()> dialogs;
   auto& dialog = dialogs[static_cast<std::size_t>(kind)];
   const bool open = dialog && dialog->isVisible();  // a closed one is only waiting for its end
-  if (!open) dialog = newSettingDialog(kind, parent);
+  if (!open) dialog = monitorForm(kind).dialog(parent);
   dialog->setInitMoniSet(index);
   if (!open) centreOnScreen(*dialog);
   dialog->show();

@@ -6,30 +6,14 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
+#include <utility>
 
 #include "desktop/qtText.h"
+#include "monitors/frmMonitorForms.h"
 #include "monitors/mdlMonitorSelection.h"
 
 namespace vk {
-
-namespace {
-
-struct Group {
-  const char* frame;
-  const char* heading;
-  const char* box;
-  const char* title;
-  int rows;
-};
-constexpr std::array<Group, kMonitorKinds.size()> kGroups{{
-    {"fraNumber", "lblNumCap", "chkNumMoni", "Numerical monitor", 8},
-    {"fraWave", "lblWaveCap", "chkWaveMoni", "Wave monitor", 4},
-    {"fraX_Y", "lblXYCap", "chkX_YMoni", "X-Y monitor", 2},
-    {"fraBar", "lblBarCap", "chkBarMoni", "Bar monitor", 2},
-    {"fraCircle", "lblCircleCap", "chkCircleMoni", "Circle monitor", 4},
-}};
-
-}  // namespace
 
 frmSetMonitor::frmSetMonitor(QWidget* parent) : QDialog(parent) {
   named(this, QStringLiteral("frmSetMonitor"));
@@ -41,11 +25,16 @@ frmSetMonitor::frmSetMonitor(QWidget* parent) : QDialog(parent) {
       named(new QLabel(tr("Check the monitor to display."), this), QStringLiteral("lblCap")));
   auto* grid = new QGridLayout;
   grid->setSpacing(10);
-  grid->addWidget(buildGroup(MonitorKind::kNumerical), 0, 0, 2, 1);
-  grid->addWidget(buildGroup(MonitorKind::kWave), 0, 1);
-  grid->addWidget(buildGroup(MonitorKind::kXY), 1, 1);
-  grid->addWidget(buildGroup(MonitorKind::kCircle), 0, 2);
-  grid->addWidget(buildGroup(MonitorKind::kBar), 1, 2);
+  // The keyboard goes down a column of groups, then to the next.
+  auto kinds = kMonitorKinds;
+  std::ranges::sort(kinds, {}, [](MonitorKind kind) {
+    const auto& form = monitorForm(kind);
+    return std::pair(form.column, form.row);
+  });
+  for (const auto kind : kinds) {
+    const auto& form = monitorForm(kind);
+    grid->addWidget(buildGroup(form), form.row, form.column, form.rows, 1);
+  }
   column->addLayout(grid);
 
   auto* buttons = new QHBoxLayout;
@@ -62,9 +51,8 @@ frmSetMonitor::frmSetMonitor(QWidget* parent) : QDialog(parent) {
   centreOnScreen(*this);
 }
 
-QGroupBox* frmSetMonitor::buildGroup(MonitorKind kind) {
-  const auto at = static_cast<std::size_t>(kind);
-  const Group& group = kGroups[at];
+QGroupBox* frmSetMonitor::buildGroup(const MonitorForm& group) {
+  const auto at = static_cast<std::size_t>(group.kind);
   // The blanks keep the place of the heading, which stands in bold on it.
   auto* frame = new QGroupBox(QString(16, u' '), this);
   named(frame, QString::fromLatin1(group.frame), tr(group.title));
@@ -78,14 +66,14 @@ QGroupBox* frmSetMonitor::buildGroup(MonitorKind kind) {
   heading->setFont(bold);
   heading->adjustSize();
   const auto flags = monitorFlags();
-  for (int i = 0; i < static_cast<int>(monitorCount(kind)); ++i) {
+  for (int i = 0; i < static_cast<int>(monitorCount(group.kind)); ++i) {
     auto* box = named(new QCheckBox(tr("monitor %1").arg(i + 1), frame), elementName(group.box, i),
                       tr("%1 %2").arg(tr(group.title)).arg(i + 1));
     box->setChecked(flags[at][static_cast<std::size_t>(i)]);
-    grid->addWidget(box, i % group.rows, i / group.rows);
+    grid->addWidget(box, i % group.lines, i / group.lines);
     boxes_[at].push_back(box);
   }
-  grid->setRowStretch(group.rows, 1);
+  grid->setRowStretch(group.lines, 1);
   return frame;
 }
 

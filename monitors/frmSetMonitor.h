@@ -13,6 +13,8 @@ class QGroupBox;
 
 namespace vk {
 
+struct MonitorForm;
+
 class frmSetMonitor : public QDialog {
   Q_OBJECT
 
@@ -21,7 +23,7 @@ class frmSetMonitor : public QDialog {
   void reject() override;
 
  private:
-  QGroupBox* buildGroup(MonitorKind kind);
+  QGroupBox* buildGroup(const MonitorForm& group);
   void cmdSet_Click();
 
   std::array<std::vector<QCheckBox*>, kMonitorKinds.size()> boxes_;

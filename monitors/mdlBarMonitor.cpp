@@ -11,12 +11,6 @@ namespace vk {
 
 using Says = ReadingLabel::Says;
 
-namespace {
-
-constexpr int kPanelHeight = 66;  // of the panels under the picture
-
-}  // namespace
-
 BarEdges barEdges(int width) {
   constexpr double kUnits = 21;
   constexpr double kUnitsOfBar = 4;
@@ -31,13 +25,16 @@ BarEdges barEdges(int width) {
 
 // --- state ------------------------------------------------------------------------------------
 
-void BarMonitor::init(const std::array<int32_t, kBars>& boxSlots, int width, int height) {
+void BarMonitor::init(std::span<const int32_t> slots) {
   for (std::size_t i = 0; i < kBars; ++i) {
-    bars_[i].slot = boxSlots[i];
+    bars_[i].slot = slots[i];
     bars_[i].wasConnected = true;
-    bars_[i].unitIsLost = false;
+    reloadUnit(i);
   }
-  resize(width, height);
+}
+
+void BarMonitor::reloadUnit(std::size_t bar) {
+  bars_.at(bar).unit.reload();
 }
 
 void BarMonitor::resize(int width, int height) {
@@ -49,15 +46,16 @@ void BarMonitor::resize(int width, int height) {
   blankWave_ = true;
   blankSub_ = true;
   drawBars_ = false;
-  zeroRow_ = centerY_ + bars_[0].gndOffsetPx;
+  zeroRow_ = bars_[0].zeroRow;
 }
 
 void BarMonitor::setScales() {
   for (std::size_t i = 0; i < kBars; ++i) {
     auto& bar = bars_[i];
     const float full = record_.BAR_FULL[i];
-    bar.scaleY = pixelsPerUnit(height_, full);
-    bar.gndOffsetPx = groundShift(full, record_.BAR_OFFSET[i], bar.scaleY);
+    const float scale = pixelsPerUnit(height_, full);
+    bar.axis = upwardAxis(centerY_, groundShift(full, record_.BAR_OFFSET[i], scale), scale);
+    bar.zeroRow = toRow(bar.axis.toPixel(0));
   }
   stale_ = true;
 }
@@ -78,19 +76,19 @@ bool BarMonitor::anyConnected() const {
   return std::ranges::any_of(bars_, &Bar::wasConnected);
 }
 
-void BarMonitor::loseBar(std::size_t bar) {
+void BarMonitor::loseChannel(std::size_t bar) {
   auto& lost = bars_.at(bar);
   if (!lost.wasConnected) return;
   lost.wasConnected = false;
-  lost.unitIsLost = true;
+  lost.unit.lose();
   lost.label.say(Says::kLost);
 }
 
-void BarMonitor::lose() {
+void BarMonitor::takeLost() {
   if (!anyConnected()) return;
   for (auto& bar : bars_) {
     bar.wasConnected = false;
-    bar.unitIsLost = true;
+    bar.unit.lose();
     bar.label.say(Says::kLost);
   }
   stale_ = true;
@@ -112,7 +110,7 @@ void BarMonitor::take(std::span<const std::string_view> readings) {
   const auto allAre = [&](std::string_view text) {
     return std::ranges::all_of(values, [&](std::string_view value) { return value == text; });
   };
-  if (allAre(kUnusedReading) || allAre(kLostReading)) return lose();
+  if (allAre(kUnusedReading) || allAre(kLostReading)) return takeLost();
   bool changed = stale_;
   for (std::size_t i = 0; i < kBars; ++i) changed = takeBar(i, values[i]) || changed;
   if (!changed) return;
@@ -133,7 +131,7 @@ bool BarMonitor::takeBar(std::size_t index, std::string_view reading) {
     changed = bar.extremes.hold(*value) != Extremes::Change::kNone || changed;
     bar.label.say(*value);
   } else if (reading != kUnusedReading) {
-    loseBar(index);
+    loseChannel(index);
   }
   const bool drawn = bar.label.says() != Says::kUnused;
   changed = changed || drawn != bar.drawn;
@@ -143,27 +141,27 @@ bool BarMonitor::takeBar(std::size_t index, std::string_view reading) {
 
 // --- texts --------------------------------------------------------------------------------------
 
-bool BarMonitor::takeUnitLoss(std::size_t bar) {
-  return std::exchange(bars_.at(bar).unitIsLost, false);
-}
-
-std::string BarMonitor::unitText(std::size_t bar) const {
-  return unitLabel(bars_.at(bar).slot, record_.BAR_CH.at(bar));
+ChannelLabels BarMonitor::labels(std::size_t bar) {
+  auto& said = bars_.at(bar);
+  return {said.label.take(), said.unit.take(said.slot, record_.BAR_CH.at(bar)), std::nullopt,
+          std::nullopt};
 }
 
 std::string BarMonitor::scaleText(std::size_t bar) const {
-  return textOf(record_.BAR_FULL.at(bar)) + unitText(bar) + "/div";
+  return textOf(record_.BAR_FULL.at(bar)) + unitLabel(bars_.at(bar).slot, record_.BAR_CH.at(bar)) +
+         "/div";
 }
 
 // --- picture ------------------------------------------------------------------------------------
 
-void BarMonitor::show(clsSurface& wave, clsSurface& sub) {
-  if (blankSub_) sub.clear(record_.BAR_BACK);
+bool BarMonitor::show(const MonitorSurfaces& surfaces) {
+  auto& wave = surfaces.shown;
+  if (blankSub_) surfaces.twin.clear(record_.BAR_BACK);
   if (blankWave_) wave.clear(record_.BAR_BACK);
   blankSub_ = false;
   blankWave_ = false;
-  if (!drawBars_ && !zeroRow_) return;
-  if (drawBars_) drawBars(wave, sub);
+  if (!drawBars_ && !zeroRow_) return false;
+  if (drawBars_) drawBars(wave, surfaces.twin);
   if (zeroRow_) {
     drawLevels(wave, centerY_, height_ - kFramePixels, record_.BAR_GRID);
     drawZero(wave, *zeroRow_);
@@ -171,88 +169,33 @@ void BarMonitor::show(clsSurface& wave, clsSurface& sub) {
   drawBars_ = false;
   zeroRow_.reset();
   wave.refresh();
+  return true;
 }
 
-float BarMonitor::rowOf(const Bar& bar, float value) const {
-  return -value * bar.scaleY + static_cast<float>(centerY_ + bar.gndOffsetPx);
-}
-
-void BarMonitor::drawBars(clsSurface& wave, clsSurface& sub) const {
+void BarMonitor::drawBars(clsSurface& wave, clsSurface& twin) const {
   for (std::size_t i = 0; i < kBars; ++i) {
     const auto& bar = bars_[i];
     if (!bar.drawn) continue;
-    drawMarks(sub, i);
-    sub.filledBox(edges_.left[i], centerY_ + bar.gndOffsetPx, edges_.right[i],
-                  toRow(rowOf(bar, bar.value)), record_.BAR_FORE[i]);
+    drawMarks(twin, i);
+    twin.filledBox(edges_.left[i], bar.zeroRow, edges_.right[i], toRow(bar.axis.toPixel(bar.value)),
+                   record_.BAR_FORE[i]);
   }
-  wave.copy(sub, 0, 0, width_, height_, 0, 0);
+  wave.copy(twin, 0, 0, width_, height_, 0, 0);
   drawLevels(wave, centerY_, height_ - kFramePixels, record_.BAR_GRID);
-  drawZero(wave, centerY_ + bars_[0].gndOffsetPx);
+  drawZero(wave, bars_[0].zeroRow);
 }
 
-void BarMonitor::drawMarks(clsSurface& sub, std::size_t index) const {
+void BarMonitor::drawMarks(clsCanvas& twin, std::size_t index) const {
   const auto draw = [&](float value, Colour colour) {
-    const auto mark = markAt(rowOf(bars_[index], value), height_, colour);
-    sub.line(edges_.left[index], mark.row, edges_.right[index], mark.row, mark.colour);
+    const auto mark = markAt(bars_[index].axis.toPixel(value), height_, colour);
+    twin.line(edges_.left[index], mark.row, edges_.right[index], mark.row, mark.colour);
   };
   draw(bars_[index].extremes.max, kMaxColour);
   draw(bars_[index].extremes.min, kMinColour);
 }
 
-void BarMonitor::drawZero(clsSurface& wave, int32_t row) const {
+void BarMonitor::drawZero(clsCanvas& wave, int32_t row) const {
   wave.line(0, row, width_, row, record_.BAR_GND);
-}
-
-// --- layout -------------------------------------------------------------------------------------
-
-namespace {
-
-// Packed panels share what the window has to the right of the picture's left edge; others widen
-// with the picture, as far as larger letters need it.
-void placePanels(BarLayout& at, int width, int height, const BarRoom& room) {
-  constexpr int kGap = 4;
-  constexpr int kCount = static_cast<int>(kBars);
-  const auto& picture = at.picWave;
-  const bool packed = picture.width < room.panelRow;
-  const int natural = room.panelRow / kCount;
-  const int most = std::max(1, (width - picture.left) / kCount);
-  const int widest = std::max(160, natural);
-  const int panel =
-      packed ? std::min(natural, most) : std::clamp(picture.width / kCount - kGap, natural, widest);
-  const int top = picture.top + picture.height;
-  for (int i = 0; i < kCount; ++i) {
-    const double middle =
-        picture.width / 4.0 * i + picture.left + picture.width / 8.0 - panel / 2.0;
-    at.picCh[static_cast<std::size_t>(i)] = {packed ? picture.left + i * panel : toRow(middle), top,
-                                             panel, std::clamp(height - top, 1, kPanelHeight)};
-  }
-}
-
-}  // namespace
-
-BarLayout barLayout(int width, int height, const BarRoom& room) {
-  constexpr int kGap = 4;
-  constexpr int kBetween = 2;  // the two buttons
-  constexpr int kTop = 8;
-  constexpr int kRight = 24;
-  constexpr int kSliderExtra = 16;  // beyond the picture, half of it at either end
-  constexpr int kLeastPicture = 160;
-  BarLayout at;
-  const int column = room.buttonWidth + 2 * kGap;
-  const int beside = room.sliderWidth + kGap;
-  at.buttonsBeside = width - column - beside - kRight < kLeastPicture;
-  const int left = beside + (at.buttonsBeside ? kGap : column);
-  const int top = at.buttonsBeside ? room.buttonHeight + kGap : kTop;
-  const int pictureHeight = std::max(1, height - top - kPanelHeight);
-  at.picWave = {left, top, std::max(1, width - left - kRight), pictureHeight};
-  at.sdrYPos = {left - room.sliderWidth - 2, top - kSliderExtra / 2, room.sliderWidth,
-                pictureHeight + kSliderExtra};
-  at.fraSet = {kGap, kTop, room.buttonWidth, 2 * room.buttonHeight + kBetween};
-  if (at.buttonsBeside)
-    at.fraSet = {left, kGap / 2, std::min(2 * room.buttonWidth + kBetween, width - left - kGap / 2),
-                 room.buttonHeight};
-  placePanels(at, width, height, room);
-  return at;
 }
 
 }  // namespace vk

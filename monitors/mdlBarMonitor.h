@@ -12,10 +12,9 @@
 #include <string>
 #include <string_view>
 
-#include "base/clsSurface.h"
+#include "monitors/mdlBarRecord.h"
+#include "monitors/mdlMonitorLogic.h"
 #include "monitors/mdlMonitorPicture.h"
-#include "monitors/mdlMonitorRecords.h"
-#include "monitors/mdlMonitorValue.h"
 
 namespace vk {
 
@@ -26,31 +25,23 @@ struct BarEdges {
 };
 BarEdges barEdges(int width);
 
-class BarMonitor {
+class BarMonitor : public MonitorLogic {
  public:
   /// Changes of the slider go into the record.
   explicit BarMonitor(BarMonitorRec& record) : record_(record) {}
 
-  /// Takes the record over; boxSlots are the boxes' rows of the table, one for each bar.
-  void init(const std::array<int32_t, kBars>& boxSlots, int width, int height);
-  void resize(int width, int height);
+  void init(std::span<const int32_t> slots) override;
+  void resize(int width, int height) override;
+  void take(std::span<const std::string_view> readings) override;
+  void clear() override;
+  void reloadUnit(std::size_t channel) override;
+  bool show(const MonitorSurfaces& surfaces) override;
+  ChannelLabels labels(std::size_t channel) override;
 
-  /// One reading for each bar.
-  void take(std::span<const std::string_view> readings);
-  /// No bar has a live box.
-  void lose();
-  void loseBar(std::size_t bar);
+  void loseChannel(std::size_t bar);
   /// Grid and zero line over what the picture shows.
   void showEmpty();
-  void clear();
   void moveGround(int32_t position);
-
-  /// Draws what has changed since the last call, by way of the twin.
-  void show(clsSurface& wave, clsSurface& sub);
-  /// Text for the bar's value, when it has changed since the last call.
-  std::optional<std::string> newValueText(std::size_t bar) { return bars_.at(bar).label.take(); }
-  /// True once after the bar has lost its box: its unit goes.
-  bool takeUnitLoss(std::size_t bar);
 
   std::string scaleText(std::size_t bar) const;
   std::string unitText(std::size_t bar) const;
@@ -60,22 +51,22 @@ class BarMonitor {
   struct Bar {
     int32_t slot = 0;
     Extremes extremes;
-    float scaleY = 0;  ///< pixels per unit
-    int32_t gndOffsetPx = 0;
+    ValueAxis axis;
+    int32_t zeroRow = 0;
     bool wasConnected = false;
     ReadingLabel label;
-    bool unitIsLost = false;
+    UnitLabel unit;
     float value = 0;  ///< of the last reading, 0 without one
     bool drawn = false;
   };
 
   bool anyConnected() const;
   void setScales();
+  void takeLost();
   bool takeBar(std::size_t index, std::string_view reading);
-  float rowOf(const Bar& bar, float value) const;
-  void drawBars(clsSurface& wave, clsSurface& sub) const;
-  void drawMarks(clsSurface& sub, std::size_t index) const;
-  void drawZero(clsSurface& wave, int32_t row) const;
+  void drawBars(clsSurface& wave, clsSurface& twin) const;
+  void drawMarks(clsCanvas& twin, std::size_t index) const;
+  void drawZero(clsCanvas& wave, int32_t row) const;
 
   BarMonitorRec& record_;
   std::array<Bar, kBars> bars_;
@@ -89,24 +80,5 @@ class BarMonitor {
   bool blankSub_ = false;
   std::optional<int32_t> zeroRow_;  ///< grid and a zero line in this row are to be drawn
 };
-
-/// Where everything in the window goes. A place without a size is for a control that finds no room.
-struct BarLayout {
-  MonitorPlace picWave;
-  MonitorPlace sdrYPos;
-  MonitorPlace fraSet;
-  std::array<MonitorPlace, kBars> picCh;
-  bool buttonsBeside = false;  ///< the buttons of the frame stand in a row, not in a column
-};
-
-/// What the controls need, which depends on font and style.
-struct BarRoom {
-  int sliderWidth = 1;
-  int buttonWidth = 1;
-  int buttonHeight = 1;
-  int panelRow = 4;  ///< width of the four panels side by side
-};
-
-BarLayout barLayout(int width, int height, const BarRoom& room);
 
 }  // namespace vk

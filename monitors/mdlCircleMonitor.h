@@ -5,24 +5,19 @@
 // in a hidden picture, so that the needle needs no erasing. No window is needed here.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
-#include "base/clsSurface.h"
+#include "base/mdlAxis.h"
+#include "monitors/mdlCircleRecord.h"
+#include "monitors/mdlMonitorLogic.h"
 #include "monitors/mdlMonitorPicture.h"
-#include "monitors/mdlMonitorRecords.h"
-#include "monitors/mdlMonitorValue.h"
 
 namespace vk {
-
-/// All three have the same size.
-struct CirclePictures {
-  clsSurface& wave;  ///< what the user sees
-  clsSurface& sub;   ///< where a reading is put together
-  clsSurface& dial;  ///< without needle and marks
-};
 
 /// What the dial takes from the desktop.
 struct CircleColours {
@@ -38,30 +33,24 @@ struct CircleScale {
   std::string full;
 };
 CircleScale circleScale(const CircleMonitorRec& record);
-/// "Y:1000ue[FS]".
-std::string circleScaleLabel(const CircleMonitorRec& record, std::string_view unit);
 
-class CircleMonitor {
+/// Its extra surface holds the dial without needle and marks; all three have the same size.
+class CircleMonitor : public MonitorLogic {
  public:
-  /// Takes the record over; the extremes stay.
-  void init(const CircleMonitorRec& record, int32_t slot);
-  /// From now on values have their angles; before, every tick and needle points down.
-  void startAngles();
-  void resize(int width, int height);
+  explicit CircleMonitor(const CircleMonitorRec& record) : record_(record) {}
 
-  void take(std::string_view reading);
-  /// True when the monitor had a box until now.
-  bool lose();
-  void clear(CirclePictures pictures);
+  void init(std::span<const int32_t> slots) override;
+  void resize(int width, int height) override;
+  void take(std::span<const std::string_view> readings) override;
+  void clear() override;
+  void reloadUnit(std::size_t channel) override;
+  bool show(const MonitorSurfaces& surfaces) override;
+  ChannelLabels labels(std::size_t channel) override;
 
-  /// Without a needle until the next reading.
-  void drawEmpty(CirclePictures pictures, CircleColours colours);
-  /// Draws the last reading taken since the last call, unless it would look the same.
-  void show(CirclePictures pictures);
-  /// What the value's label shall say, when that is something else than at the last call.
-  std::optional<std::string> newLabel() { return label_.take(); }
-
-  bool wasConnected() const { return wasConnected_; }
+  /// For the dial of the next resize().
+  void setColours(CircleColours colours) { colours_ = colours; }
+  /// "Y:1000ue[FS]".
+  std::string scaleText() const;
   const Extremes& extremes() const { return extremes_; }
 
  private:
@@ -70,26 +59,28 @@ class CircleMonitor {
     int x;
     int y;
   };
-  struct Axis {
+  struct Direction {
     double x;
     double y;
   };
 
-  void drawDial(clsSurface& dial, CircleColours colours) const;
-  void drawTicks(clsSurface& dial, int stepDegrees, int from, int to, Colour colour) const;
-  void drawLampFrame(clsSurface& dial, CircleColours colours) const;
-  void drawNeedle(CirclePictures pictures) const;
-  void drawMark(clsSurface& sub, float value, Colour colour) const;
-  void lineAlong(clsSurface& picture, Axis axis, double from, double to, Colour colour) const;
-  Point pointAt(Axis axis, double part) const;
-  Axis axisOf(float value) const;
-  Axis peggedAxis(Side side) const;
+  void drawDial(clsCanvas& dial) const;
+  void drawTicks(clsCanvas& dial, int stepDegrees, int from, int to, Colour colour) const;
+  void drawLampFrame(clsCanvas& dial) const;
+  void drawEmpty(const MonitorSurfaces& surfaces) const;
+  void drawNeedle(const MonitorSurfaces& surfaces) const;
+  void drawMark(clsCanvas& twin, float value, Colour colour) const;
+  void lineAlong(clsCanvas& picture, Direction direction, double from, double to,
+                 Colour colour) const;
+  Point pointAt(Direction direction, double part) const;
+  Direction directionOf(float value) const;
+  Direction peggedDirection(Side side) const;
   std::optional<Side> sideOf(float value) const;
 
-  CircleMonitorRec record_;
+  const CircleMonitorRec& record_;
+  CircleColours colours_;
   int32_t slot_ = 0;
-  float degPerUnit_ = 0;
-  double degToRad_ = 0;
+  Axis<double> degrees_;  ///< of a value, clockwise from the right
   int32_t centerX_ = 0;
   int32_t centerY_ = 0;
   int32_t dialRadius_ = 0;
@@ -97,8 +88,12 @@ class CircleMonitor {
   Extremes extremes_;
   float value_ = 0;
   bool pending_ = false;  ///< a reading that show() has not drawn
+  bool empty_ = true;     ///< a dial without a needle comes first
   bool wasConnected_ = false;
   ReadingLabel label_;
+  UnitLabel unit_;
+
+  void takeReading(std::string_view reading);
 
   struct Drawn {
     float value;
@@ -106,23 +101,5 @@ class CircleMonitor {
   };
   std::optional<Drawn> drawn_;  ///< what the visible picture shows, if it has a needle
 };
-
-/// Where everything lies for a form of the given size. `line` is the height of a line of text in
-/// the small font of the form. A size of 0 means that there is no room.
-struct CircleLayout {
-  MonitorPlace picture;
-  MonitorPlace frame;
-  bool frameInRow = false;  ///< the buttons side by side instead of one below the other
-  MonitorPlace value;
-  MonitorPlace unit;
-  MonitorPlace serial;
-  MonitorPlace channel;
-  MonitorPlace yScale;
-  MonitorPlace offset;
-  MonitorPlace oneThird;
-  MonitorPlace twoThirds;
-  MonitorPlace full;
-};
-CircleLayout circleLayout(int width, int height, int line);
 
 }  // namespace vk

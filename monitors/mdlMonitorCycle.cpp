@@ -18,9 +18,6 @@ MonitorHandlers gMonitorHandlers;
 
 namespace {
 
-constexpr std::size_t kMostMonitors = kNumMonitors;
-constexpr std::size_t kMostChannels = kBars;
-
 std::array<std::array<MonitorWindow*, kMostMonitors>, kMonitorKinds.size()> gWindows{};
 int64_t gLastFrame = -kFrameMs;
 /// Counts the resets, each of which comes with a new box table.

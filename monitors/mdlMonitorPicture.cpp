@@ -3,8 +3,7 @@
 
 #include <cmath>
 
-#include "monitors/mdlMonitorRecords.h"
-#include "monitors/mdlMonitorValue.h"
+#include "monitors/mdlMonitorRow.h"
 
 namespace vk {
 
@@ -14,7 +13,7 @@ int32_t division(int32_t length, int i) {
   return toRow(static_cast<double>(length) / kDivisions * i);
 }
 
-void levelPairs(clsSurface& picture, int32_t centerY, int32_t height, Colour colour) {
+void levelPairs(clsCanvas& picture, int32_t centerY, int32_t height, Colour colour) {
   const int width = picture.width();
   for (int i = 1; i <= kGridLines; ++i) {
     const int32_t d = division(height, i);
@@ -38,7 +37,15 @@ int32_t groundShift(float full, int32_t halfDivisions, float scale) {
   return toShift(groundLevel(full, halfDivisions) * scale);
 }
 
-void drawDivisions(clsSurface& picture, int32_t centerX, int32_t centerY, Colour colour) {
+ValueAxis upwardAxis(int32_t centre, int64_t shift, float scale) {
+  return rightwardAxis(centre, shift, -scale);
+}
+
+ValueAxis rightwardAxis(int32_t centre, int64_t shift, float scale) {
+  return {0, static_cast<float>(centre + shift), scale};
+}
+
+void drawDivisions(clsCanvas& picture, int32_t centerX, int32_t centerY, Colour colour) {
   const int height = picture.height();
   picture.setLineStyle(LineStyle::kDotted);
   for (int i = 1; i <= kGridLines; ++i) {
@@ -50,14 +57,14 @@ void drawDivisions(clsSurface& picture, int32_t centerX, int32_t centerY, Colour
   picture.setLineStyle(LineStyle::kSolid);
 }
 
-void drawCentre(clsSurface& picture, int32_t centerX, int32_t centerY, Colour colour) {
+void drawCentre(clsCanvas& picture, int32_t centerX, int32_t centerY, Colour colour) {
   picture.setLineStyle(LineStyle::kDotted);
   picture.line(0, centerY, picture.width(), centerY, colour);
   picture.line(centerX, 0, centerX, picture.height(), colour);
   picture.setLineStyle(LineStyle::kSolid);
 }
 
-void drawLevels(clsSurface& picture, int32_t centerY, int32_t height, Colour colour) {
+void drawLevels(clsCanvas& picture, int32_t centerY, int32_t height, Colour colour) {
   picture.setLineStyle(LineStyle::kDotted);
   picture.line(0, centerY, picture.width(), centerY, colour);
   levelPairs(picture, centerY, height, colour);

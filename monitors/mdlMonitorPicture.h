@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// What the pictures of several kinds of monitor have in common: places, the grid of ten divisions,
+// What the pictures of several kinds of monitor have in common: scales and grid of ten divisions,
 // and the marks of held extremes.
 #pragma once
 
 #include <cstdint>
 
-#include "base/clsSurface.h"
+#include "base/clsCanvas.h"
 #include "base/mdlAxis.h"
 
 namespace vk {
@@ -20,15 +20,6 @@ inline constexpr int kFramePixels = 4;
 /// Grid lines on each side of the centre; the fifth would be the edge.
 inline constexpr int kGridLines = 4;
 
-/// Where something goes in a form, in pixels. A place without a size is for what finds no room.
-struct MonitorPlace {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-  bool operator==(const MonitorPlace&) const = default;
-};
-
 /// Pixels to a unit on an axis whose ten divisions of `full` units take the picture's extent less
 /// its frame; 0 when the scale of the file is of no use.
 float pixelsPerUnit(int32_t extent, float full);
@@ -37,12 +28,18 @@ int32_t groundShift(float full, int32_t halfDivisions, float scale);
 /// The same in units.
 float groundLevel(float full, int32_t halfDivisions);
 
+/// Live values come and are drawn in single precision.
+using ValueAxis = Axis<float>;
+/// The axis whose zero lies `shift` pixels from the centre; values grow upward, or to the right.
+ValueAxis upwardAxis(int32_t centre, int64_t shift, float scale);
+ValueAxis rightwardAxis(int32_t centre, int64_t shift, float scale);
+
 /// Dotted lines at every division, upright ones and then level ones.
-void drawDivisions(clsSurface& picture, int32_t centerX, int32_t centerY, Colour colour);
+void drawDivisions(clsCanvas& picture, int32_t centerX, int32_t centerY, Colour colour);
 /// Dotted lines through the centre.
-void drawCentre(clsSurface& picture, int32_t centerX, int32_t centerY, Colour colour);
+void drawCentre(clsCanvas& picture, int32_t centerX, int32_t centerY, Colour colour);
 /// A level line pair at each division of `height`, which may be less than the picture's.
-void drawLevels(clsSurface& picture, int32_t centerY, int32_t height, Colour colour);
+void drawLevels(clsCanvas& picture, int32_t centerY, int32_t height, Colour colour);
 
 /// Where and how the mark of an extreme is drawn: in its row, or in yellow at the edge beyond which
 /// it lies.

@@ -9,7 +9,7 @@
 namespace vk {
 
 /// By kind and index; the kinds use as many as they have monitors.
-using MonitorFlags = std::array<std::array<bool, kNumMonitors>, kMonitorKinds.size()>;
+using MonitorFlags = std::array<std::array<bool, kMostMonitors>, kMonitorKinds.size()>;
 
 struct MonitorSelection {
   MonitorFlags ticked{};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "monitors/mdlMonitorValue.h"
 
+#include <utility>
+
 #include "base/mdlText.h"
 #include "recorder/mdlBoxTable.h"
 #include "recorder/mdlCodeTables.h"
@@ -81,6 +83,18 @@ std::optional<std::string> ReadingLabel::take() {
       return "---";
   }
   return "";
+}
+
+std::optional<std::string> UnitLabel::take(int32_t slot, int32_t channel, std::string_view none) {
+  switch (std::exchange(next_, Next::kKept)) {
+    case Next::kKept:
+      return std::nullopt;
+    case Next::kUnit:
+      return unitLabel(slot, channel);
+    case Next::kNone:
+      break;
+  }
+  return std::string(none);
 }
 
 std::string monitorCaption(std::size_t index, std::string_view caption) {

@@ -65,6 +65,19 @@ class ReadingLabel {
   State taken_;
 };
 
+/// What the label of a channel's unit says: nothing new, the unit of its box, or none.
+class UnitLabel {
+ public:
+  void reload() { next_ = Next::kUnit; }
+  void lose() { next_ = Next::kNone; }
+  /// The text, or `none` in place of it, if it was asked for since the last call.
+  std::optional<std::string> take(int32_t slot, int32_t channel, std::string_view none = {});
+
+ private:
+  enum class Next { kKept, kUnit, kNone };
+  Next next_ = Next::kKept;
+};
+
 std::string monitorCaption(std::size_t index, std::string_view caption);
 /// The user's title out of a window's caption.
 std::string titleOfCaption(std::string_view windowCaption, std::size_t index);

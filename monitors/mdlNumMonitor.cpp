@@ -29,7 +29,7 @@ std::string signedTextOf(Value value, int32_t point) {
 /// Ends where the measure is within the tolerance, or before the step that would turn round: then
 /// the smaller of the two sizes stands.
 template <typename Measure>
-void walkFont(clsSurface& picture, int wanted, int tolerance, Measure measure) {
+void walkFont(clsCanvas& picture, int wanted, int tolerance, Measure measure) {
   int size = std::clamp(picture.fontSize(), 1, kLargestFont);
   int direction = 0;
   while (true) {
@@ -62,8 +62,8 @@ std::string signedText(double value, int32_t point) {
 NumMonitor::NumMonitor(const NumMonitorRec& record)
     : record_(record), lastPoint_(record.NUM_POINT) {}
 
-void NumMonitor::init(int32_t slot) {
-  slot_ = slot;
+void NumMonitor::init(std::span<const int32_t> slots) {
+  slot_ = slots.front();
   draw_ = {record_.NUM_BACK, record_.NUM_FORE};
   sub_ = draw_;
   unit_ = draw_;
@@ -73,10 +73,19 @@ void NumMonitor::init(int32_t slot) {
   wasConnected_ = true;
   colorChanged_ = false;
   lookAs(Shown::kNothing);
-  reloadUnit();
+  unitLabel_.reload();
 }
 
-void NumMonitor::take(std::string_view reading) {
+void NumMonitor::resize(int, int) {
+  changed_ = true;
+}
+
+void NumMonitor::take(std::span<const std::string_view> readings) {
+  if (readings.front() == kLostReading) return takeLost();
+  takeReading(readings.front());
+}
+
+void NumMonitor::takeReading(std::string_view reading) {
   const auto value = toDisplayValue(reading, slot_, record_.NUM_CH);
   if (!value) {
     if (reading != kUnusedReading) return;
@@ -130,20 +139,21 @@ void NumMonitor::judge(double mean) {
   }
 }
 
-void NumMonitor::lose() {
+void NumMonitor::takeLost() {
   if (!wasConnected_) return;
   wasConnected_ = false;
   sub_ = {record_.NUM_BACK, record_.NUM_FORE};
   lookAs(Shown::kLost);
-  maxLabel_.state = minLabel_.state = unitLabel_ = Label::kNone;
+  maxLabel_.state = minLabel_.state = Label::kNone;
+  unitLabel_.lose();
 }
 
 void NumMonitor::clear() {
   extremes_ = {};
 }
 
-void NumMonitor::reloadUnit() {
-  unitLabel_ = Label::kText;
+void NumMonitor::reloadUnit(std::size_t) {
+  unitLabel_.reload();
 }
 
 void NumMonitor::lookAs(Shown shown) {
@@ -153,20 +163,21 @@ void NumMonitor::lookAs(Shown shown) {
 
 // --- showing --------------------------------------------------------------------------------
 
-bool NumMonitor::show(clsSurface& monitor, clsSurface& sub) {
+bool NumMonitor::show(const MonitorSurfaces& surfaces) {
   if (!changed_) return false;
   changed_ = false;
-  const int width = monitor.width();
-  const int height = monitor.height();
-  sub.clear(sub_.back);
+  auto& twin = surfaces.twin;
+  const int width = surfaces.shown.width();
+  const int height = surfaces.shown.height();
+  twin.clear(sub_.back);
   const auto print = [&](const char* text) {
-    sub.text(0, (height - sub.textHeight(text)) / 2, text, sub_.fore);
+    twin.text(0, (height - twin.textHeight(text)) / 2, text, sub_.fore);
   };
   switch (shown_) {
     case Shown::kNothing:
       break;
     case Shown::kValue:
-      drawNumValue(sub, width, height);
+      drawNumValue(twin, width, height);
       break;
     case Shown::kUnused:
       print(kUnusedDisplay);
@@ -175,19 +186,19 @@ bool NumMonitor::show(clsSurface& monitor, clsSurface& sub) {
       print(kLostDisplay);
       break;
   }
-  monitor.copy(sub, 0, 0, width, height, 0, 0);
-  monitor.refresh();
+  surfaces.shown.copy(twin, 0, 0, width, height, 0, 0);
+  surfaces.shown.refresh();
   return true;
 }
 
-void NumMonitor::drawNumValue(clsSurface& sub, int monitorWidth, int monitorHeight) const {
+void NumMonitor::drawNumValue(clsSurface& twin, int monitorWidth, int monitorHeight) const {
   const std::string text = signedText(mean_, record_.NUM_POINT);
-  sub.text(0, (monitorHeight - sub.textHeight(text)) / 2, text, sub_.fore);
+  twin.text(0, (monitorHeight - twin.textHeight(text)) / 2, text, sub_.fore);
   // Printed at the left, the number moves to the right edge, whatever is beside it goes.
-  const int width = sub.textWidth(text);
+  const int width = twin.textWidth(text);
   const int x = monitorWidth - width - 2;
-  sub.copy(sub, x, 0, width + 2, sub.height(), 0, 0);
-  sub.filledBox(0, 0, x, monitorHeight, wipe_);
+  twin.copy(twin, x, 0, width + 2, twin.height(), 0, 0);
+  twin.filledBox(0, 0, x, monitorHeight, wipe_);
 }
 
 std::optional<std::string> NumMonitor::takeHold(HoldLabel& label) const {
@@ -202,21 +213,14 @@ std::optional<std::string> NumMonitor::takeHold(HoldLabel& label) const {
   return std::nullopt;
 }
 
-std::optional<std::string> NumMonitor::takeUnitText() {
-  switch (std::exchange(unitLabel_, Label::kKept)) {
-    case Label::kKept:
-      break;
-    case Label::kText:
-      return unitLabel(slot_, record_.NUM_CH);
-    case Label::kNone:
-      return kNoHold;
-  }
-  return std::nullopt;
+ChannelLabels NumMonitor::labels(std::size_t) {
+  return {std::nullopt, unitLabel_.take(slot_, record_.NUM_CH, kNoHold), takeHold(maxLabel_),
+          takeHold(minLabel_)};
 }
 
-// --- size -----------------------------------------------------------------------------------
+// --- fonts ----------------------------------------------------------------------------------
 
-void fitValueFont(clsSurface& picture) {
+void fitValueFont(clsCanvas& picture) {
   constexpr int kHeightTolerance = 4;
   constexpr int kWidthTolerance = 10;
   walkFont(picture, picture.height(), kHeightTolerance,
@@ -227,7 +231,7 @@ void fitValueFont(clsSurface& picture) {
   if (byHeight < picture.fontSize()) picture.setFontSize(byHeight);
 }
 
-void fitUnitFont(clsSurface& picture) {
+void fitUnitFont(clsCanvas& picture) {
   constexpr int kTolerance = 5;
   walkFont(picture, picture.width(), kTolerance, [&] { return picture.textWidth(kWidestUnit); });
   // A wide low surface has no room for letters of its width.
@@ -235,42 +239,8 @@ void fitUnitFont(clsSurface& picture) {
     picture.setFontSize(picture.fontSize() - 1);
 }
 
-int unitLineHeight(const clsSurface& picture) {
+int unitLineHeight(const clsCanvas& picture) {
   return picture.textHeight(kWidestUnit);
-}
-
-NumLayout numLayout(int width, int height, const NumColumn& column) {
-  constexpr int kMargin = 4;  // top of the picture, and around the column
-  constexpr int kGap = 2;
-  constexpr int kRight = 16;
-  constexpr int kBetween = 16;  // the two hold pictures
-  constexpr double kValueShare = 0.7;
-  const auto area = [](int left, int top, int w, int h) {
-    return MonitorPlace{left, top, std::max(1, w), std::max(1, h)};
-  };
-
-  const int left = column.width + 2 * kMargin;
-  NumLayout all{};
-  all.monitor = area(left, kMargin, toRow(width - left - width / 10.0 - kRight),
-                     toRow(height * kValueShare) - 2 * kMargin);
-  const auto& value = all.monitor;
-  all.unit = area(left + value.width, kMargin, width - left - value.width - kRight, value.height);
-  const int holdTop = kMargin + value.height + kMargin / 2;
-  const int holdWidth = toRow((all.unit.width + value.width) / 2.0 - kBetween / 2.0);
-  const int holdHeight = height - value.height - 2 * kMargin - kMargin / 2;
-  all.max = area(left, holdTop, holdWidth, holdHeight);
-  all.min =
-      area(left + value.width + all.unit.width - all.max.width, holdTop, holdWidth, holdHeight);
-
-  all.serial = area(kMargin, kMargin, column.width, column.line);
-  all.channel = area(kMargin, kMargin + column.line, column.width, column.line);
-  const int used = kMargin + 2 * column.line;
-  const int stacked = 2 * column.button + kGap;
-  all.buttonsBeside = used + kGap + stacked + kMargin > height;
-  const int frame = all.buttonsBeside ? column.button : stacked;
-  const int frameTop = std::max(used, height - kMargin - frame);
-  all.frame = area(kMargin, frameTop, column.width, std::min(frame, height - frameTop));
-  return all;
 }
 
 }  // namespace vk

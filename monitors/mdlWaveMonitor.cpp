@@ -35,15 +35,12 @@ uint32_t timeGetTime() {
 
 // --- state ------------------------------------------------------------------------------------
 
-void WaveMonitor::init(int32_t slot, int width, int height) {
-  slot_ = slot;
-  offsetSum_ = 0;
-  offsetCount_ = 0;
-  // As a click on the box would, when it changes; the stored shift then holds until the
-  // measurement is complete.
-  if (offsetTicked_ != record_.WAV_CUP_ON) setOffsetCancel(record_.WAV_CUP_ON);
+void WaveMonitor::init(std::span<const int32_t> slots) {
+  slot_ = slots.front();
+  // As a click on the box would; the stored shift then holds until the measurement is complete.
+  setOffsetCancel(record_.WAV_CUP_ON);
   cancelOffsetPx_ = record_.WAV_CUP_ON ? toShift(record_.WAV_CUP_VALUE) : 0;
-  resize(width, height);
+  unit_.reload();
   wasConnected_ = true;
   firstSample_ = true;
 }
@@ -64,12 +61,15 @@ void WaveMonitor::setScale() {
   centerY_ = toRow(height_ / 2.0);
   centerX_ = toRow(width_ / 2.0);
   gndOffsetPx_ = groundShift(record_.WAV_FULL, record_.WAV_OFFSET, scaleY_);
+  setAxis();
+}
+
+void WaveMonitor::setAxis() {
+  axis_ = upwardAxis(centerY_, int64_t{gndOffsetPx_} + cancelOffsetPx_, scaleY_);
 }
 
 float WaveMonitor::rowOf(float value) const {
-  const float y =
-      -value * scaleY_ + static_cast<float>(int64_t{centerY_} + gndOffsetPx_ + cancelOffsetPx_);
-  return std::clamp(y, -kFarOff, kFarOff);
+  return std::clamp(axis_.toPixel(value), -kFarOff, kFarOff);
 }
 
 /// Both trace and marks start anew; what is collected would belong to the old ones.
@@ -93,12 +93,12 @@ void WaveMonitor::moveGround(int32_t position) {
 }
 
 void WaveMonitor::setOffsetCancel(bool on) {
-  offsetTicked_ = on;
   record_.WAV_CUP_ON = on;
   offsetSum_ = 0;
   offsetCount_ = 0;
   offsetMeasuring_ = on;
   cancelOffsetPx_ = 0;
+  setAxis();
 }
 
 void WaveMonitor::setPaused(bool on) {
@@ -106,18 +106,27 @@ void WaveMonitor::setPaused(bool on) {
   if (!on) lastTime_ = timeGetTime();
 }
 
-bool WaveMonitor::lose() {
-  if (!wasConnected_) return false;
-  wasConnected_ = false;
-  label_.say(ReadingLabel::Says::kLost);
-  overlays_ = true;
-  return true;
+void WaveMonitor::reloadUnit(std::size_t) {
+  unit_.reload();
 }
 
 // --- readings -----------------------------------------------------------------------------------
 
-void WaveMonitor::take(std::string_view reading) {
-  if (reading == kUnusedReading) return takeUnused();
+void WaveMonitor::take(std::span<const std::string_view> readings) {
+  if (readings.front() == kLostReading) return takeLost();
+  if (readings.front() == kUnusedReading) return takeUnused();
+  takeReading(readings.front());
+}
+
+void WaveMonitor::takeLost() {
+  if (!wasConnected_) return;
+  wasConnected_ = false;
+  label_.say(ReadingLabel::Says::kLost);
+  unit_.lose();
+  overlays_ = true;
+}
+
+void WaveMonitor::takeReading(std::string_view reading) {
   const auto value = toDisplayValue(reading, slot_, record_.WAV_CH);
   if (!value || isPaused_) return;
   wasConnected_ = true;
@@ -145,6 +154,7 @@ void WaveMonitor::collectOffset(std::string_view reading) {
   const auto& coeff = gBoxTable[static_cast<std::size_t>(slot_)].coeff;
   cancelOffsetPx_ =
       toShift(static_cast<float>(shift) * coeff[static_cast<std::size_t>(record_.WAV_CH)]);
+  setAxis();
   offsetMeasuring_ = false;
 }
 
@@ -202,6 +212,10 @@ void WaveMonitor::addMark(float value, Colour colour) {
 
 // --- texts --------------------------------------------------------------------------------------
 
+ChannelLabels WaveMonitor::labels(std::size_t) {
+  return {label_.take(), unit_.take(slot_, record_.WAV_CH), std::nullopt, std::nullopt};
+}
+
 std::string WaveMonitor::xScaleText() const {
   return "X:" + std::string(textAt(moniSpeedName, speedIndex(record_.WAV_SPEED))) + "/div";
 }
@@ -216,19 +230,21 @@ std::string WaveMonitor::offsetText() const {
 
 // --- picture ------------------------------------------------------------------------------------
 
-void WaveMonitor::show(const WavePictures& pictures) {
-  if (blankSub_) pictures.sub.clear(record_.WAV_BACK);
+bool WaveMonitor::show(const MonitorSurfaces& surfaces) {
+  auto& wave = surfaces.shown;
+  if (blankSub_) surfaces.twin.clear(record_.WAV_BACK);
   blankSub_ = false;
-  showMarks(pictures.marks);
-  if (blankWave_) pictures.wave.clear(record_.WAV_BACK);
-  const bool drawn = showStrokes(pictures.sub);
-  if (drawn) pictures.wave.copy(pictures.sub, 0, 0, width_, height_, 0, 0);
-  if (!drawn && !overlays_) return;
-  drawDivisions(pictures.wave, centerX_, centerY_, record_.WAV_GRID);
-  drawCentre(pictures.wave, centerX_, centerY_, record_.WAV_GND);
-  pictures.wave.refresh();
+  showMarks(*surfaces.extra);
+  if (blankWave_) wave.clear(record_.WAV_BACK);
+  const bool drawn = showStrokes(surfaces.twin);
+  if (drawn) wave.copy(surfaces.twin, 0, 0, width_, height_, 0, 0);
+  if (!drawn && !overlays_) return false;
+  drawDivisions(wave, centerX_, centerY_, record_.WAV_GRID);
+  drawCentre(wave, centerX_, centerY_, record_.WAV_GND);
+  wave.refresh();
   blankWave_ = false;
   overlays_ = false;
+  return true;
 }
 
 void WaveMonitor::showMarks(clsSurface& marks) {
@@ -247,81 +263,22 @@ std::size_t WaveMonitor::firstVisible(int32_t& columns) const {
   return first;
 }
 
-bool WaveMonitor::showStrokes(clsSurface& sub) {
+bool WaveMonitor::showStrokes(clsSurface& twin) {
   if (strokes_.empty()) return false;
   int32_t columns = 0;
   const std::size_t first = firstVisible(columns);
-  sub.copy(sub, 0, 0, width_, height_, columns, 0);
+  twin.copy(twin, 0, 0, width_, height_, columns, 0);
   int32_t x = width_ - columns;
-  sub.filledBox(x, 0, width_ - 1, height_, record_.WAV_BACK);
+  twin.filledBox(x, 0, width_ - 1, height_, record_.WAV_BACK);
   for (std::size_t i = first; i < strokes_.size(); ++i) {
     const auto& stroke = strokes_[i];
     const int32_t end = x + stroke.step - 1;
-    sub.line(x, stroke.fromRow, end, stroke.toRow, record_.WAV_FORE);
-    sub.point(end, stroke.toRow, record_.WAV_FORE);
+    twin.line(x, stroke.fromRow, end, stroke.toRow, record_.WAV_FORE);
+    twin.point(end, stroke.toRow, record_.WAV_FORE);
     x = end + 1;
   }
   strokes_.clear();
   return true;
-}
-
-// --- layout -------------------------------------------------------------------------------------
-
-namespace {
-
-constexpr int kGap = 4;
-
-/// Serial, channel and buttons at the left. The buttons come before the labels where there is room
-/// for only one of them.
-void placeColumn(WaveLayout& at, int height, int width, const WaveRoom& room) {
-  constexpr int kEdge = 2;
-  const int under = 2 * kEdge + 2 * room.line;
-  const bool both = height >= under + room.frameHeight;
-  const bool frame = height >= kEdge + room.frameHeight;
-  if (both || !frame) {
-    at.lblSerNum = {kGap, kEdge, width, room.line};
-    at.lblChNum = {kGap, kEdge + room.line, width, room.line};
-  }
-  if (frame) at.fraSet = {kGap, both ? under : kEdge, width, room.frameHeight};
-}
-
-}  // namespace
-
-WaveLayout waveLayout(int width, int height, const WaveRoom& room) {
-  constexpr int kStrip = 10;        // width of the marks
-  constexpr int kRight = 48;        // beside them
-  constexpr int kSliderExtra = 15;  // beyond the picture, half of it at either end
-  constexpr int kLeastPicture = 80;
-  WaveLayout at;
-  // The bands above and below the picture hold the live value and the scales.
-  const int top = std::clamp(height * 18 / 100, room.line + 1, 48);
-  const int column = std::max(room.serialWidth, room.frameWidth) + 2 * kGap;
-  const int beside = room.offsetWidth + room.sliderWidth + kGap;
-  const bool labels = width - column - beside - kStrip - kRight >= kLeastPicture;
-  const int left = beside + (labels ? column : kGap);
-  const int pictureWidth = std::max(1, width - left - kStrip - 1 - kRight);
-  const int pictureHeight = std::max(1, height - 2 * top);
-
-  at.picWave = {left, top, pictureWidth, pictureHeight};
-  at.picMaxMin = {left + pictureWidth + 1, top, kStrip, pictureHeight};
-  at.sdrYPos = {left - room.sliderWidth - 2, top - kSliderExtra / 2, room.sliderWidth,
-                pictureHeight + kSliderExtra};
-  at.lblOffSet = {at.sdrYPos.left - room.offsetWidth - 1, top + (pictureHeight - room.line) / 2,
-                  room.offsetWidth, room.line};
-  if (labels) placeColumn(at, height, column - 2 * kGap, room);
-
-  at.valueFont = top - 3;
-  at.unitFont = std::max(room.line - 2, top * 6 / 10);
-  at.scaleFont = std::clamp(top / 2, room.line - 2, 20);
-  const int unitWidth = at.unitFont * 9 / 2;
-  at.lblMonitor = {left, 0, std::max(1, width - left - unitWidth - kGap), top};
-  at.lblUnitNum = {width - unitWidth, 0, unitWidth, top};
-  // The Y scale ends in a unit and is the longer one.
-  const int scales = std::max(2, width - left - kGap);
-  const int wide = scales * 55 / 100;
-  at.lblYScale = {left, top + pictureHeight, wide, top};
-  at.lblXScale = {left + wide, top + pictureHeight, scales - wide, top};
-  return at;
 }
 
 }  // namespace vk

@@ -7,46 +7,34 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "base/clsSurface.h"
+#include "monitors/mdlMonitorLogic.h"
 #include "monitors/mdlMonitorPicture.h"
-#include "monitors/mdlMonitorRecords.h"
-#include "monitors/mdlMonitorValue.h"
+#include "monitors/mdlWaveRecord.h"
 
 namespace vk {
 
-struct WavePictures {
-  clsSurface& wave;   ///< what the user sees: the trace under its grid
-  clsSurface& sub;    ///< the trace alone, as wide and high
-  clsSurface& marks;  ///< the path of the extremes, as high
-};
-
-class WaveMonitor {
+/// Its twin holds the trace alone, its extra surface is the strip with the path of the extremes.
+class WaveMonitor : public MonitorLogic {
  public:
   /// Changes of slider and check box go into the record.
   explicit WaveMonitor(WaveMonitorRec& record) : record_(record) {}
 
-  /// Takes the record over; slot is the box's row of the table.
-  void init(int32_t slot, int width, int height);
-  /// The picture's new size: a blank chart in the new scale.
-  void resize(int width, int height);
+  void init(std::span<const int32_t> slots) override;
+  void resize(int width, int height) override;
+  void take(std::span<const std::string_view> readings) override;
+  void clear() override;
+  void reloadUnit(std::size_t channel) override;
+  bool show(const MonitorSurfaces& surfaces) override;
+  ChannelLabels labels(std::size_t channel) override;
 
-  void take(std::string_view reading);
-  /// The box is gone. True when it was there until now.
-  bool lose();
-  void clear();
   void moveGround(int32_t position);
   void setOffsetCancel(bool on);
   void setPaused(bool on);
-
-  /// Draws what has changed since the last call.
-  void show(const WavePictures& pictures);
-  /// Text for the live value, when it has changed since the last call.
-  std::optional<std::string> newValueText() { return label_.take(); }
 
   std::string xScaleText() const;
   std::string yScaleText() const;
@@ -63,8 +51,11 @@ class WaveMonitor {
   };
 
   void setScale();
+  void setAxis();
   float rowOf(float value) const;
+  void takeLost();
   void takeUnused();
+  void takeReading(std::string_view reading);
   void collectOffset(std::string_view reading);
   void addSample(float value);
   void addStroke(Stroke stroke);
@@ -73,7 +64,7 @@ class WaveMonitor {
   void blank();
   std::size_t firstVisible(int32_t& columns) const;
   void showMarks(clsSurface& marks);
-  bool showStrokes(clsSurface& sub);
+  bool showStrokes(clsSurface& twin);
 
   WaveMonitorRec& record_;
   int32_t slot_ = 0;
@@ -81,6 +72,7 @@ class WaveMonitor {
   int32_t height_ = 1;
   Extremes extremes_;
   float scaleY_ = 0;  ///< pixels per unit
+  ValueAxis axis_;
   int32_t centerY_ = 0;
   int32_t centerX_ = 0;
   int32_t gndOffsetPx_ = 0;
@@ -92,13 +84,13 @@ class WaveMonitor {
   float lastValue_ = 0;
   int64_t offsetSum_ = 0;
   int32_t offsetCount_ = 0;
-  bool offsetTicked_ = false;
   bool offsetMeasuring_ = false;
   bool isPaused_ = false;
   bool wasConnected_ = false;
   bool firstSample_ = true;
 
   ReadingLabel label_;
+  UnitLabel unit_;
   std::vector<Stroke> strokes_;
   std::vector<ExtremeMark> marks_;
   bool hasMarks_ = false;  ///< on the strip or waiting for it
@@ -107,35 +99,5 @@ class WaveMonitor {
   bool blankMarks_ = false;
   bool overlays_ = false;
 };
-
-/// Where everything in the window goes. A place without a size is for a control that finds no room.
-struct WaveLayout {
-  MonitorPlace picWave;
-  MonitorPlace picMaxMin;
-  MonitorPlace sdrYPos;
-  MonitorPlace lblOffSet;
-  MonitorPlace lblMonitor;
-  MonitorPlace lblUnitNum;
-  MonitorPlace lblSerNum;
-  MonitorPlace lblChNum;
-  MonitorPlace fraSet;
-  MonitorPlace lblYScale;
-  MonitorPlace lblXScale;
-  int valueFont = 1;  ///< heights of the letters' boxes, in pixels
-  int unitFont = 1;
-  int scaleFont = 1;
-};
-
-/// What the controls need, which depends on font and style.
-struct WaveRoom {
-  int line = 1;         ///< height of a small label
-  int serialWidth = 1;  ///< of "Ser: 0000000"
-  int offsetWidth = 1;  ///< of the longest usual ground level
-  int sliderWidth = 1;
-  int frameWidth = 1;
-  int frameHeight = 1;
-};
-
-WaveLayout waveLayout(int width, int height, const WaveRoom& room);
 
 }  // namespace vk

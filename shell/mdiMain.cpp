@@ -23,6 +23,7 @@
 #include "link/mdlConnection.h"
 #include "link/mdlUSBCommand.h"
 #include "monitors/frmMonitor.h"
+#include "monitors/frmMonitorForms.h"
 #include "shell/frmBoxPanel.h"
 #include "shell/frmMsgButton.h"
 #include "shell/frmStart.h"
@@ -145,7 +146,7 @@ void mdiMain::loadMonitor(MonitorKind kind) {
   // Entering lets events run, which may unload the form.
   {
     const FlagGuard loading(loading_);
-    newMonitorForm(kind)->enter(*area_);
+    monitorForm(kind).window()->enter(*area_);
   }
   QTimer::singleShot(0, this, &mdiMain::makeRoom);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The text of the configuration file: two warning lines, a title and 145 keys, each with one value
-// or with the values of all records of a monitor kind as a comma list. One table describes every
-// key for writing and reading. The view settings that only this file knows stand here too.
+// The text of the configuration file: two warning lines, a title and the keys, each with one value
+// or with the values of all records of a monitor kind as a comma list. The keys of the monitors come
+// from the rows of their kinds. The view settings that only this file knows stand here too.
 //
 // Reading finds the first occurrence of a key anywhere in the text, so a caption that spells a
 // later key takes its place, and a caption with a comma shifts the captions behind it.
@@ -12,9 +12,6 @@
 #include <string_view>
 
 namespace vk {
-
-inline constexpr int32_t kConfigKeys = 145;
-inline constexpr int32_t kConfigLines = 150;
 
 /// The shortcut bar and the status bar are visible.
 extern bool gShowShortcut;
@@ -34,7 +31,9 @@ std::string configText();
 /// False when a value could not be read: the reading ends there and the rest keeps what it had.
 /// View settings outside their range come back as their defaults.
 bool readConfigText(std::string_view text);
-/// The text of key n (0 to 144), without the blank that follows it in the file.
+/// The keys of the file, in its order.
+int32_t configKeyCount();
+/// The text of key n, from 0, without the blank that follows it in the file.
 std::string_view configKeyName(int32_t number);
 
 }  // namespace vk

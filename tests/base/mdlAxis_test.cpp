@@ -17,7 +17,7 @@ TEST(Axis, BothEndsStandWhereTheyWerePutAndComeBack) {
       {-5, 399, 5, 0, 0, 199.5},                  // a value grows upward
       {0, 0, 10, 500, 2.5, 125},                  // a time to the right
       {1e9, 10, 1e9 + 0.5, 110, 1e9 + 0.25, 60},  // late in a long recording
-      {1000, 90, -1000, 360, 0, 225},             // a dial turned backward
+      {1000, 90, -1000, 360, 500, 157.5},         // a dial turned backward
   };
   for (const auto& row : rows) {
     const auto axis = Axis<double>::between(row.first, row.firstPixel, row.last, row.lastPixel);

@@ -16,16 +16,20 @@ class BarMonitorTest : public ::testing::Test {
  protected:
   BarMonitorTest() {
     resetBoxTable();
-    monitor.init({1, 1, 1, 1}, 210, 404);
+    init({1, 1, 1, 1}, 210, 404);
     shown();
     texts();
   }
   ~BarMonitorTest() override { resetBoxTable(); }
 
+  void init(std::array<int32_t, kBars> slots, int width, int height) {
+    monitor.init(slots);
+    monitor.resize(width, height);
+  }
   void take(std::array<std::string_view, kBars> readings) { monitor.take(readings); }
   /// What the next frame does, without the grid, which never changes.
   std::string shown() {
-    monitor.show(wave, sub);
+    monitor.show({wave, sub});
     std::string kept;
     std::istringstream lines(wave.take());
     for (std::string line; std::getline(lines, line);) {
@@ -39,7 +43,8 @@ class BarMonitorTest : public ::testing::Test {
   std::string texts() {
     std::string all;
     for (std::size_t i = 0; i < kBars; ++i) {
-      all += monitor.newValueText(i).value_or("=") + (monitor.takeUnitLoss(i) ? "!" : "") + " ";
+      const auto said = monitor.labels(i);
+      all += said.value.value_or("=") + (said.unit == "" ? "!" : "") + " ";
     }
     return all;
   }
@@ -61,7 +66,7 @@ TEST_F(BarMonitorTest, OnePassInAllStates) {
   record.BAR_FULL[1] = 500;
   record.BAR_FORE[1] = 0x00FF00;
   record.BAR_OFFSET.fill(2);
-  monitor.init({1, 1, 1, 1}, 210, 404);
+  init({1, 1, 1, 1}, 210, 404);
   take({"001000", "007000", "*", "------"});
   EXPECT_EQ(shown(),
             "sub: clear 2F2F2F\nwave: clear 2F2F2F\n"
@@ -90,7 +95,7 @@ TEST_F(BarMonitorTest, OnePassInAllStates) {
 TEST_F(BarMonitorTest, GridSharesTheHeightInTenDivisions) {
   wave.resize(100, 44);
   monitor.resize(100, 44);
-  monitor.show(wave, sub);
+  monitor.show({wave, sub});
   EXPECT_EQ(wave.take(),
             "sub: clear 2F2F2F\nwave: clear 2F2F2F\nwave: dotted\n"
             "wave: line 0,22 100,22 4F4F4F\n"
@@ -137,30 +142,24 @@ TEST_F(BarMonitorTest, ClearAndSliderActWithTheNextReadings) {
   EXPECT_NE(shown().find("sub: filled 10,162 50,122"), std::string::npos);
 }
 
+TEST_F(BarMonitorTest, AGroundFarOffStaysBelowThePicture) {
+  record.BAR_OFFSET.fill(std::numeric_limits<int32_t>::max());
+  init({1, 1, 1, 1}, 210, 404);
+  take({"001000", "*", "*", "*"});
+  const std::string all = shown();
+  EXPECT_NE(all.find("sub: filled 10,1000000 50,1000000"), std::string::npos) << all;
+  EXPECT_NE(all.find("wave: line 0,1000000 210,1000000"), std::string::npos) << all;
+}
+
 TEST_F(BarMonitorTest, NonsenseOfAFileIsHarmless) {
   record.BAR_FULL = {0, std::numeric_limits<float>::quiet_NaN(), 1e-40F, -5};
   record.BAR_OFFSET.fill(std::numeric_limits<int32_t>::min());
   record.BAR_CH = {9, -1, 1, 1};
-  monitor.init({1, 77, 1, -3}, -4, 0);
+  init({1, 77, 1, -3}, -4, 0);
   take({"001000", "001000", "1E+038", "001000"});
   EXPECT_EQ(texts(), "---! ---! 1E+38 ---! ");
   EXPECT_NE(shown().find("wave: copy sub 0,0 1x1"), std::string::npos);
   EXPECT_EQ(monitor.scaleText(1).substr(monitor.scaleText(1).size() - 4), "/div");
-}
-
-TEST(BarLayout, PanelsStandUnderTheirQuartersOrPacked) {
-  const BarRoom room{20, 60, 24, 300};
-  const auto wide = barLayout(445, 200, room);
-  EXPECT_EQ(wide.picWave, (MonitorPlace{92, 8, 329, 126}));
-  EXPECT_EQ(wide.picCh[3], (MonitorPlace{341, 134, 78, 66}));
-  EXPECT_EQ(wide.sdrYPos.height, 126 + 16);
-  EXPECT_EQ(wide.fraSet, (MonitorPlace{4, 8, 60, 50}));
-  // Narrow, the buttons stand above the picture; low, the panels give way.
-  const auto small = barLayout(218, 83, room);
-  EXPECT_EQ(small.fraSet, (MonitorPlace{28, 2, 122, 24}));
-  EXPECT_EQ(small.picWave, (MonitorPlace{28, 28, 166, 1}));
-  EXPECT_EQ(small.picCh[3], (MonitorPlace{28 + 3 * 47, 29, 47, 54}));
-  EXPECT_EQ(barLayout(1, 1, room).picWave.width, 1);
 }
 
 }  // namespace

@@ -145,6 +145,21 @@ TEST_F(MonitorCycle, AFaultThatStaysEndsThePassAndReconnects) {
   }
 }
 
+TEST_F(MonitorCycle, ABoxThatTheStatusPollHasLostLosesItsMonitors) {
+  on(MonitorKind::kNumerical, 0, {100}, {1});
+  on(MonitorKind::kWave, 0, {200}, {1});
+  on(MonitorKind::kXY, 0, {100, 200}, {1, 1});
+  vk::monitorCycle();
+  log.clear();
+  for (const int32_t handle : {0, -1, -1001}) {
+    vk::gBoxTable[2].handle = handle;
+    library().takeTranscript();
+    vk::monitorCycle();
+    EXPECT_EQ(takeLog(), "numerical 0 reads [+00101]\nwave 0 lost\nx-y 0 reads [+00101] [*]\n");
+    EXPECT_EQ(library().takeTranscript(), "write(1,MON0)\nread(1)\n") << handle;
+  }
+}
+
 TEST_F(MonitorCycle, NoNoticeOnceTheProgramEnds) {
   int notices = 0;
   vk::gMonitorHandlers.lostLink = [&] { ++notices; };

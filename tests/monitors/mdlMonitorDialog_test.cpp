@@ -60,10 +60,10 @@ TEST(MonitorDialog, ListsOfferWhatThereIs) {
 
 TEST(MonitorDialog, RecordsFromAFileMayHoldAnything) {
   constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-  const double numbers[] = {-3, 0, 2.5, 3, 4, 1e30, kNone};
+  const double numbers[] = {-3, 0, 0.4, 0.6, 1.5, 2.5, 2.6, 3, 4, 1e30, kNone};
   std::string answers;
   for (const double number : numbers) answers += textOf(listIndex(number, 4)) + " ";
-  EXPECT_EQ(answers, "0 0 2 3 3 3 0 ");
+  EXPECT_EQ(answers, "0 0 0 1 2 2 3 3 3 3 0 ");
   EXPECT_EQ(numberText(std::numeric_limits<float>::infinity(), 1000.0F), "1000");
   EXPECT_EQ(numberText(0.25F, 1000.0F), "0.25");
 }

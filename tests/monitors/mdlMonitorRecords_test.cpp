@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace vk {
 namespace {
 
@@ -28,6 +30,16 @@ TEST(MonitorRecords, ResetReachesTheFirstAndTheLastOfEachKind) {
   EXPECT_TRUE(allDefault(gXYMoni));
   EXPECT_TRUE(allDefault(gBarMoni));
   EXPECT_TRUE(allDefault(gCircleMoni));
+}
+
+TEST(MonitorRecords, EveryKindHasItsRoomInWhatGoesOverAllKinds) {
+  for (const auto kind : kMonitorKinds) {
+    EXPECT_LE(monitorCount(kind), kMostMonitors);
+    const auto fields = monitorFields(kind, monitorCount(kind) - 1);
+    EXPECT_LE(fields.serial.size(), kMostChannels);
+    EXPECT_EQ(fields.serial.size(), fields.channel.size());
+    EXPECT_THROW(monitorFields(kind, monitorCount(kind)), std::out_of_range);
+  }
 }
 
 }  // namespace

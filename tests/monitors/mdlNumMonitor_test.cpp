@@ -24,17 +24,22 @@ class NumMonitorTest : public ::testing::Test {
     record.NUM_C_FORE = kOddFore;
     record.NUM_CVAL_UP = 100;
     record.NUM_CVAL_DOWN = -100;
-    monitor.init(1);
+    init();
   }
   ~NumMonitorTest() override { resetBoxTable(); }
 
+  void init() {
+    const int32_t slot = 1;
+    monitor.init({&slot, 1});
+  }
+  void take(std::string_view reading) { monitor.take({&reading, 1}); }
   /// What the labels are told: "max|min|unit", "=" for one that keeps its text.
   std::string labels() {
-    return monitor.takeMaxText().value_or("=") + "|" + monitor.takeMinText().value_or("=") + "|" +
-           monitor.takeUnitText().value_or("=");
+    const auto said = monitor.labels(0);
+    return said.max.value_or("=") + "|" + said.min.value_or("=") + "|" + said.unit.value_or("=");
   }
   std::string picture() {
-    monitor.show(shown, sub);
+    monitor.show({shown, sub});
     return shown.take();
   }
   /// The text that is printed and its colours.
@@ -56,7 +61,7 @@ class NumMonitorTest : public ::testing::Test {
 
 TEST_F(NumMonitorTest, ANumberIsComposedAtTheRightEdgeAndCopied) {
   picture();
-  monitor.take("+00012");
+  take("+00012");
   EXPECT_EQ(picture(),
             "sub: clear 2F2F2F\n"
             "sub: text 0,12 FFFFFF [+12]\n"
@@ -69,26 +74,26 @@ TEST_F(NumMonitorTest, ANumberIsComposedAtTheRightEdgeAndCopied) {
 }
 
 TEST_F(NumMonitorTest, OtherReadings) {
-  monitor.take("+00012");
+  take("+00012");
   picture();
   labels();
-  monitor.take("------");
+  take("------");
   EXPECT_EQ(picture(),
             "sub: clear 2F2F2F\n"
             "sub: text 0,12 FFFFFF [ unused]\n"
             "shown: copy sub 0,0 200x40 to 0,0\n"
             "shown: refresh\n");
   EXPECT_EQ(labels(), "--- |--- |=");
-  monitor.take("------");
-  monitor.take("E12345x");
+  take("------");
+  take("E12345x");
   EXPECT_EQ(picture(), "");
   monitor.lose();
   EXPECT_EQ(printed(), "2F2F2F FFFFFF [ ---]");
   EXPECT_EQ(labels(), "--- |--- |--- ");
   monitor.lose();
   EXPECT_EQ(picture(), "");
-  monitor.take("-00012");
-  monitor.reloadUnit();
+  take("-00012");
+  monitor.reloadUnit(0);
   EXPECT_EQ(printed(), "2F2F2F FFFFFF [-12]");
   EXPECT_EQ(labels(), "=|-12|ue");
 }
@@ -96,64 +101,64 @@ TEST_F(NumMonitorTest, OtherReadings) {
 TEST_F(NumMonitorTest, TheMeanOfTenReadings) {
   record.NUM_SPEED = 9;
   record.NUM_POINT = 1;
-  monitor.init(1);
+  init();
   EXPECT_EQ(printed(), "blank");
-  for (int i = 0; i < 9; ++i) monitor.take("+00100");
-  monitor.take("------");
+  for (int i = 0; i < 9; ++i) take("+00100");
+  take("------");
   EXPECT_EQ(printed(), "2F2F2F FFFFFF [ unused]");
-  monitor.take("-00101");
+  take("-00101");
   EXPECT_EQ(printed(), "2F2F2F FFFFFF [+79.9]") << "the running sum stays when a channel is unused";
   EXPECT_EQ(labels().substr(0, 14), "--- |-101.0|ue") << "extremes are those of the readings";
-  for (int i = 0; i < 9; ++i) monitor.take(i % 2 == 0 ? "+00003" : "-00003");
+  for (int i = 0; i < 9; ++i) take(i % 2 == 0 ? "+00003" : "-00003");
   EXPECT_EQ(picture(), "");
-  monitor.take("-00003");
+  take("-00003");
   EXPECT_EQ(printed(), "2F2F2F FFFFFF [0.0]");
 }
 
 TEST_F(NumMonitorTest, ColoursFollowWithTheNextValue) {
   record.NUM_CVAL_ONOFF = true;
   const auto after = [&](std::string_view reading) {
-    monitor.take(reading);
+    take(reading);
     return printed();
   };
   EXPECT_EQ(after("+00100"), "2F2F2F FFFFFF [+100]");
   EXPECT_EQ(after("+00099"), "000080 00FFFF [+99]");
   EXPECT_EQ(monitor.unitBack(), kOddBack);
   EXPECT_EQ(after("-00100"), "2F2F2F FFFFFF [-100]");
-  monitor.take("+00101");  // drawn with the abnormal colours, though no frame shows it
+  take("+00101");  // drawn with the abnormal colours, though no frame shows it
   EXPECT_EQ(after("+00001"), "000080 00FFFF [+1]");
-  monitor.take("+00200");
-  monitor.take("+00200");
+  take("+00200");
+  take("+00200");
   monitor.lose();
   EXPECT_EQ(printed(), "2F2F2F FFFFFF [ ---]");
   EXPECT_EQ(monitor.unitBack(), kOddBack);
 }
 
 TEST_F(NumMonitorTest, HoldLabels) {
-  monitor.take("+00005");
-  monitor.take("+00002");
+  take("+00005");
+  take("+00002");
   monitor.clear();
   EXPECT_EQ(labels(), "+5|+2|ue") << "clearing does not reach what was held before";
   EXPECT_EQ(labels(), "=|=|=");
-  monitor.take("+00001");
-  monitor.take("-00004");
+  take("+00001");
+  take("-00004");
   EXPECT_EQ(labels(), "+1|-4|=");
   record.NUM_POINT = 2;
-  monitor.take("+00000");
+  take("+00000");
   EXPECT_EQ(labels(), "+1.00|-4.00|=");
 }
 
 TEST_F(NumMonitorTest, NonsenseFromAFile) {
   record.NUM_SPEED = std::numeric_limits<float>::quiet_NaN();
   record.NUM_POINT = 99;
-  monitor.init(1);
-  monitor.take("+00005");
+  init();
+  take("+00005");
   EXPECT_EQ(printed(), "2F2F2F FFFFFF [+5]");
   record.NUM_CH = 9;
-  monitor.init(1);
-  monitor.take("+00005");
+  init();
+  take("+00005");
   EXPECT_EQ(printed(), "blank");
-  EXPECT_EQ(monitor.takeUnitText(), "");
+  EXPECT_EQ(monitor.labels(0).unit, "");
 }
 
 TEST(NumMonitorText, SignAndOverflow) {
@@ -179,25 +184,6 @@ TEST(NumMonitorFont, TheSmallerOfHeightAndWidthStands) {
   EXPECT_EQ(fitted(1, 1, 16, fitValueFont), 2) << "ends";
   EXPECT_EQ(fitted(80, 40, 8, fitUnitFont), 19);
   EXPECT_EQ(fitted(400, 40, 8, fitUnitFont), 40);
-}
-
-TEST(NumMonitorLayout, SurfacesFillWhatTheColumnLeaves) {
-  const auto all = numLayout(392, 134, {66, 14, 22});
-  const auto text = [](const MonitorPlace& area) {
-    return fmt::format("{},{} {}x{}", area.left, area.top, area.width, area.height);
-  };
-  EXPECT_EQ(text(all.monitor), "74,4 263x86");
-  EXPECT_EQ(text(all.unit), "337,4 39x86");
-  EXPECT_EQ(text(all.max), "74,92 143x38");
-  EXPECT_EQ(text(all.min), "233,92 143x38");
-  EXPECT_EQ(text(all.frame), "4,84 66x46");
-  EXPECT_FALSE(all.buttonsBeside);
-  const auto halves = numLayout(405, 134, {66, 14, 22});
-  EXPECT_EQ(text(halves.monitor), "74,4 274x86");
-  EXPECT_EQ(text(halves.max), "74,92 150x38");
-  const auto small = numLayout(50, 10, {66, 14, 22});
-  EXPECT_TRUE(small.buttonsBeside);
-  EXPECT_EQ(text(small.monitor), "74,4 1x1");
 }
 
 }  // namespace

@@ -22,18 +22,28 @@ class WaveMonitorTest : public ::testing::Test {
   WaveMonitorTest() {
     resetBoxTable();
     record.WAV_SPEED = 6;  // ten seconds to a screen
-    monitor.init(1, kWidth, kHeight);
+    init(1, kWidth, kHeight);
     shown();
+    said();
   }
   ~WaveMonitorTest() override { resetBoxTable(); }
 
+  void init(int32_t slot, int width, int height) {
+    monitor.init({&slot, 1});
+    monitor.resize(width, height);
+  }
+  /// The labels of value and unit, "=" for one that stays.
+  std::string said() {
+    const auto labels = monitor.labels(0);
+    return labels.value.value_or("=") + " " + labels.unit.value_or("=");
+  }
   void take(std::string_view reading, int64_t after = 50) {
     desk.clock += after;
-    monitor.take(reading);
+    monitor.take({&reading, 1});
   }
   /// What the next frame does, without the grid, which never changes.
   std::string shown() {
-    monitor.show({wave, sub, marks});
+    monitor.show({wave, sub, &marks});
     std::string kept;
     std::istringstream lines(wave.take());
     for (std::string line; std::getline(lines, line);) {
@@ -81,8 +91,8 @@ TEST_F(WaveMonitorTest, OneSampleADrawnFrame) {
             "sub: point 499,162 0000FF\n"
             "wave: copy sub 0,0 500x404 to 0,0\n"
             "wave: refresh\n");
-  EXPECT_EQ(monitor.newValueText(), "1000");
-  EXPECT_EQ(monitor.newValueText(), std::nullopt);
+  EXPECT_EQ(said(), "1000 =");
+  EXPECT_EQ(said(), "= =");
   take("001500", 1);
   EXPECT_EQ(shown(), "");
 }
@@ -90,7 +100,7 @@ TEST_F(WaveMonitorTest, OneSampleADrawnFrame) {
 TEST_F(WaveMonitorTest, GridAndCrossLieOverTheTrace) {
   wave.resize(100, 60);
   monitor.resize(100, 60);
-  monitor.show({wave, sub, marks});
+  monitor.show({wave, sub, &marks});
   EXPECT_EQ(wave.take(),
             "sub: clear 2F2F2F\nmarks: clear 2F2F2F\n"
             "marks: line 0,59 10,59 00FFFF\nmarks: line 0,0 10,0 00FFFF\nmarks: refresh\n"
@@ -140,7 +150,7 @@ TEST_F(WaveMonitorTest, PauseDropsReadingsAndLeavesNoGap) {
   monitor.setPaused(true);
   take("009999", 60000);
   monitor.setPaused(false);
-  EXPECT_EQ(monitor.newValueText(), "100");
+  EXPECT_EQ(said(), "100 =");
   EXPECT_EQ(monitor.extremes().max, 100);
   EXPECT_EQ(steps(1, 60), "3");
 }
@@ -149,14 +159,16 @@ TEST_F(WaveMonitorTest, UnusedLeavesTheTraceAndWipesTheMarks) {
   take("000100");
   take("------");
   EXPECT_EQ(shown(), "marks: clear 2F2F2F\nmarks: refresh\nwave: refresh\n");
-  EXPECT_EQ(monitor.newValueText(), "unused");
+  EXPECT_EQ(said(), "unused =");
   take("------");
   take("E");
   EXPECT_EQ(shown(), "");
-  EXPECT_TRUE(monitor.lose());
-  EXPECT_FALSE(monitor.lose());
-  EXPECT_EQ(monitor.newValueText(), "---");
+  monitor.lose();
+  monitor.lose();
+  EXPECT_EQ(said(), "--- ");
   EXPECT_EQ(shown(), "wave: refresh\n");
+  take("*");
+  EXPECT_EQ(said() + shown(), "= =") << "told once";
 }
 
 TEST_F(WaveMonitorTest, ClearWipesTraceAndExtremes) {
@@ -209,13 +221,15 @@ TEST_F(WaveMonitorTest, OffsetCancelTakesTheMeanOfTwentyReadings) {
 TEST_F(WaveMonitorTest, StoredOffsetHoldsUntilTheMeasurementIsComplete) {
   record.WAV_CUP_ON = true;
   record.WAV_CUP_VALUE = 7;
-  monitor.init(1, kWidth, kHeight);
+  init(1, kWidth, kHeight);
   EXPECT_EQ(monitor.cancelOffsetPx(), 7);
   for (int i = 0; i < 20; ++i) take("001000");
   EXPECT_EQ(monitor.cancelOffsetPx(), 40);
-  monitor.init(1, kWidth, kHeight);
-  for (int i = 0; i < 20; ++i) take("001000");
+  // Set in the dialog is a fresh start.
+  init(1, kWidth, kHeight);
   EXPECT_EQ(monitor.cancelOffsetPx(), 7);
+  for (int i = 0; i < 20; ++i) take("002000");
+  EXPECT_EQ(monitor.cancelOffsetPx(), 80);
 }
 
 TEST_F(WaveMonitorTest, NonsenseOfAFileIsHarmless) {
@@ -224,28 +238,15 @@ TEST_F(WaveMonitorTest, NonsenseOfAFileIsHarmless) {
   record.WAV_CUP_ON = true;
   record.WAV_CUP_VALUE = std::numeric_limits<float>::quiet_NaN();
   record.WAV_OFFSET = std::numeric_limits<int32_t>::max();
-  monitor.init(1, 0, -5);
+  init(1, 0, -5);
   EXPECT_EQ(monitor.xScaleText(), "X:10msec/div");
   EXPECT_EQ(monitor.yScaleText(), "Y:0ue/div");
   for (int i = 0; i < 25; ++i) take("1E+037", 4000000000);
   EXPECT_NE(shown().find("sub: line"), std::string::npos);
   record.WAV_CH = 9;
-  monitor.init(77, kWidth, kHeight);
+  init(77, kWidth, kHeight);
   take("000001");
   EXPECT_EQ(monitor.yScaleText(), "Y:0/div");
-}
-
-TEST(WaveLayout, PictureLeavesTheStripAndTheScalesTheirRoom) {
-  const auto at = waveLayout(445, 134, {13, 70, 40, 20, 70, 90});
-  EXPECT_EQ(at.picWave.width, 445 - at.picWave.left - at.picMaxMin.width - 1 - 48);
-  EXPECT_EQ(at.picWave.height, 134 - 2 * at.picWave.top);
-  EXPECT_EQ(at.picMaxMin.left, at.picWave.left + at.picWave.width + 1);
-  EXPECT_EQ(at.sdrYPos.height, at.picWave.height + 15);
-  EXPECT_GT(at.fraSet.width, 0);
-  const auto small = waveLayout(10, 5, {13, 70, 40, 20, 70, 90});
-  EXPECT_EQ(small.picWave.width, 1);
-  EXPECT_EQ(small.picWave.height, 1);
-  EXPECT_EQ(small.fraSet.width, 0);
 }
 
 }  // namespace

@@ -21,20 +21,24 @@ class XYMonitorTest : public ::testing::Test {
   XYMonitorTest() {
     resetBoxTable();
     record.XY_CH = {1, 2};
-    monitor.init({1, 1}, sub);
+    init({1, 1});
     take("+00000", "+00000");
     labels();
     show();
   }
   ~XYMonitorTest() override { resetBoxTable(); }
 
+  void init(std::array<int32_t, kXYAxes> slots) {
+    monitor.init(slots);
+    monitor.resize(kSize, kSize);
+  }
   void take(std::string_view y, std::string_view x) {
     const std::array readings{y, x};
-    monitor.take(readings, sub);
+    monitor.take(readings);
   }
   /// What was drawn, without the grid's sixteen lines.
   std::string show() {
-    monitor.show(wave, sub);
+    monitor.show({wave, sub});
     std::string text;
     std::istringstream all(wave.take());
     for (std::string line; std::getline(all, line);) {
@@ -45,7 +49,8 @@ class XYMonitorTest : public ::testing::Test {
   /// "Y value Y unit|X value X unit", "=" for a text that stays.
   std::string labels() {
     const auto axis = [this](std::size_t i) {
-      return monitor.takeValueText(i).value_or("=") + " " + monitor.takeUnitText(i).value_or("=");
+      const auto said = monitor.labels(i);
+      return said.value.value_or("=") + " " + said.unit.value_or("=");
     };
     const std::string y = axis(0);
     return y + "|" + axis(1);
@@ -82,10 +87,9 @@ TEST_F(XYMonitorTest, TheLineGrowsInTheTwinAndIsCopied) {
 }
 
 TEST_F(XYMonitorTest, TheGridHasTenDivisions) {
-  monitor.resize(25, 11, sub);
+  monitor.resize(25, 11);
   wave.resize(25, 11);
-  sub.take();
-  monitor.show(wave, sub);
+  monitor.show({wave, sub});
   const std::string all = wave.take();
   // Ties go to the even column: 2.5, 5, 7.5 and 10 beside column 12.
   for (const char* line : {"line 10,0 10,11", "line 14,0 14,11", "line 17,0 17,11", "line 4,0 4,11",
@@ -94,7 +98,7 @@ TEST_F(XYMonitorTest, TheGridHasTenDivisions) {
 }
 
 TEST_F(XYMonitorTest, AShiftedAxisJumpsWithTheNextSample) {
-  monitor.setOffset(0, 2);
+  monitor.moveGround(0, 2);
   EXPECT_EQ(record.XY_OFFSET[0], 2);
   EXPECT_EQ(monitor.offsetText(0), "1000");
   EXPECT_EQ(monitor.scaleText(0), "1000ue/div");
@@ -124,7 +128,7 @@ TEST_F(XYMonitorTest, WhatOneReadingShows) {
   };
   for (const auto& state : states) {
     SCOPED_TRACE(std::string(state.y) + " against " + state.x);
-    monitor.init({1, 1}, sub);
+    init({1, 1});
     take("+00000", "+00000");
     show();
     labels();
@@ -157,37 +161,31 @@ TEST_F(XYMonitorTest, ALostBoxIsShownOnce) {
 }
 
 TEST_F(XYMonitorTest, ClearAndResizeEmptyTheLine) {
-  monitor.clear(sub);
+  monitor.clear();
   EXPECT_EQ(show(), "sub: clear 2F2F2F\n") << "the plot empties with the next sample";
-  monitor.resize(kSize, kSize, sub);
+  monitor.resize(kSize, kSize);
   EXPECT_EQ(show(), "sub: clear 2F2F2F\nwave: clear 2F2F2F\n" + kOverlays);
   take("+01000", "+01000");
   EXPECT_EQ(show(), "") << "no line from a point of the old size";
+}
+
+TEST_F(XYMonitorTest, AGroundFarOffStaysBelowAndRightOfThePlot) {
+  record.XY_OFFSET.fill(std::numeric_limits<int32_t>::max());
+  init({1, 1});
+  take("+00000", "+00000");
+  EXPECT_EQ(monitor.pointerX(), 1000000);
+  EXPECT_EQ(monitor.pointerY(), 1000000);
 }
 
 TEST_F(XYMonitorTest, NonsenseFromAFileStaysOnNumbers) {
   record.XY_FULL = {0, std::numeric_limits<float>::quiet_NaN()};
   record.XY_OFFSET = {std::numeric_limits<int32_t>::max(), std::numeric_limits<int32_t>::min()};
   record.XY_CH = {1, 77};
-  monitor.init({1, 9}, sub);
+  init({1, 9});
   take("+01000", "+01000");
   take("-01000", "+01000");
   EXPECT_NE(show().find("line 202,202 202,202 0000FF"), std::string::npos);
   EXPECT_EQ(labels(), "-1000 ue|error ");
-}
-
-TEST(XYLayout, RowsWithoutRoomAreLeftOut) {
-  const XYMetrics metrics{88, 32, 13, 22};
-  const auto tops = [&](int width, int height) {
-    const auto all = xyLayout(width, height, metrics);
-    const auto& b = all.block[1];
-    return fmt::format("{} {}: {} {} {} {} {} {} /{}", all.wave.width, all.columnWidth, b.serial,
-                       b.channel, b.value, b.unit, b.scale, b.offset, all.frame.top);
-  };
-  EXPECT_EQ(tops(345, 187), "163 147: 72 72 85 85 103 116 /163");
-  EXPECT_EQ(tops(252, 347), "130 87: 80 93 106 93 119 132 /323");
-  EXPECT_EQ(tops(169, 77), "47 87: -1 -1 27 -1 40 -1 /53");
-  EXPECT_EQ(tops(10, 10), "1 1: -1 -1 13 -1 -1 -1 /0");
 }
 
 }  // namespace

@@ -4,14 +4,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "monitors/frmMonitor.h"
+#include "monitors/frmMonitorForms.h"
 #include "monitors/mdlMonitorCycle.h"
 #include "monitors/mdlMonitorRecords.h"
 #include "recorder/mdlBoxTable.h"
@@ -31,7 +34,7 @@ class MonitorWindowTest : public ::testing::Test {
     vk::gBoxTable[1].handle = 1;
     vk::gBoxTable[1].serial = kSerial;
     vk::gMonitorHandlers.load = [this](vk::MonitorKind kind) {
-      vk::newMonitorForm(kind)->enter(area);
+      vk::monitorForm(kind).window()->enter(area);
     };
     area.resize(900, 700);
     area.show();
@@ -51,6 +54,14 @@ class MonitorWindowTest : public ::testing::Test {
     EXPECT_NE(form, nullptr);
     settle(*form);
     return *form;
+  }
+  static std::string text(QWidget& form, const char* name) {
+    return control<QLabel>(form, name)->text().toStdString();
+  }
+  static std::string texts(QWidget& form, std::initializer_list<const char*> names) {
+    std::string all;
+    for (const char* name : names) all += text(form, name) + "|";
+    return all;
   }
   /// Lets the resize timer see that the size has settled.
   void settle(vk::frmMonitor& form) {
