@@ -114,7 +114,7 @@ void frmMoniBar::setInitMoniNum() {
   sdrYPos_->setValue(record.BAR_OFFSET[0]);
   const QFontMetrics metrics(font());
   const int panel = metrics.horizontalAdvance(QStringLiteral("Ser: 0000000")) + 2 * kPanelMargin;
-  panelRow_ = panel * static_cast<int>(kBars);
+  panelRow_ = panel * int{kBars};
 }
 
 void frmMoniBar::MoniLblDisconnect(std::size_t bar) {

@@ -22,8 +22,8 @@ frmMoniBarSet::frmMoniBarSet(QWidget* parent)
 
   const QString titles[kBars] = {tr("1st setting"), tr("2nd setting"), tr("3rd setting"),
                                  tr("4th setting")};
-  for (int i = 0; i < static_cast<int>(kBars); ++i) {
-    const auto bar = static_cast<std::size_t>(i);
+  for (int i = 0; i < int{kBars}; ++i) {
+    const std::size_t bar = i;
     auto* form = addFrame(titles[bar], 1 + i / 2, i % 2);
     addSource(form, bar);
     addScale(form, tr("Scale[/div]"), elementName("cmbYScale", i), moniFullScale,
@@ -33,7 +33,7 @@ frmMoniBarSet::frmMoniBarSet(QWidget* parent)
 
   // Nothing binds these: the abnormal fields of a bar monitor stay as they are.
   auto* abnormal = addHiddenFrame();
-  for (int i = 0; i < static_cast<int>(kBars); ++i) {
+  for (int i = 0; i < int{kBars}; ++i) {
     abnormal->addRow(named(new QCheckBox, elementName("chkCaution", i)));
     abnormal->addRow(named(new QLineEdit, elementName("txtUp", i)));
     abnormal->addRow(named(new QLineEdit, elementName("txtDown", i)));

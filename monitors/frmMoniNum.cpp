@@ -45,11 +45,11 @@ frmMoniNum::frmMoniNum()
   picMinMoni_ = addPicture("picMinMoni");
   lblUnitNum_ = addLabel(QStringLiteral("lblUnitNum"), picUnit_);
   lblMaxCap_ = addLabel(QStringLiteral("lblMaxCap"), picMaxMoni_);
-  lblMaxCap_->setText(QStringLiteral("max:"));
+  lblMaxCap_->setText(tr("max:"));
   lblMaxMoni_ = addLabel(QStringLiteral("lblMaxMoni"), picMaxMoni_);
   lblMaxMoni_->setAccessibleName(tr("Maximum"));
   lblMinCap_ = addLabel(QStringLiteral("lblMinCap"), picMinMoni_);
-  lblMinCap_->setText(QStringLiteral("min:"));
+  lblMinCap_->setText(tr("min:"));
   lblMinMoni_ = addLabel(QStringLiteral("lblMinMoni"), picMinMoni_);
   lblMinMoni_->setAccessibleName(tr("Minimum"));
   constexpr int kSide = 2;

@@ -48,18 +48,20 @@ void frmMoniNumSet::buildNormal() {
   auto* cmbPoint = addList(display, tr("&Display digits"), "cmbPoint",
                            {decimalFormat.begin(), decimalFormat.end()},
                            field(gNumMoni, &NumMonitorRec::NUM_POINT));
-  connect(cmbPoint, &QComboBox::currentIndexChanged, this, [this](int decimals) {
-    for (auto* sample : {normal_.fore, abnormal_.fore}) sample->setText(toQt(sampleText(decimals)));
-  });
+  connect(cmbPoint, &QComboBox::currentIndexChanged, this, &frmMoniNumSet::cmbPoint_Click);
+}
+
+void frmMoniNumSet::cmbPoint_Click(int decimals) {
+  for (auto* sample : {normal_.fore, abnormal_.fore}) sample->setText(toQt(sampleText(decimals)));
 }
 
 void frmMoniNumSet::buildAbnormal() {
   auto* column = new QVBoxLayout;
   auto* chkCaution = addCheck(this, kLone, field(gNumMoni, &NumMonitorRec::NUM_CVAL_ONOFF));
   column->addWidget(chkCaution);
-  auto* fraAbnormal =
+  fraAbnormal_ =
       named(new QGroupBox(tr("Abnormality display setting"), this), QStringLiteral("fraAbnormal"));
-  column->addWidget(fraAbnormal);
+  column->addWidget(fraAbnormal_);
   column->addStretch(1);
   grid()->addLayout(column, 0, 1, 2, 1);
 
@@ -67,7 +69,7 @@ void frmMoniNumSet::buildAbnormal() {
   const auto lower = field(gNumMoni, &NumMonitorRec::NUM_CVAL_DOWN);
   const auto back = field(gNumMoni, &NumMonitorRec::NUM_C_BACK);
   const auto fore = field(gNumMoni, &NumMonitorRec::NUM_C_FORE);
-  auto* form = new QFormLayout(fraAbnormal);
+  auto* form = new QFormLayout(fraAbnormal_);
   abnormal_ = addSample(form, "picAbnBack", "lblAbnFore");
   txtUp_ = addLimit(form, tr("&Upper limit value"), QStringLiteral("txtUp"), upper, kUpperLimit);
   nameLabel(form, "lblUpper");
@@ -80,17 +82,20 @@ void frmMoniNumSet::buildAbnormal() {
   nameLabel(form, "lblBackColorAb");
   addColour(form, tr("F&ore color"), 3, fore);
   nameLabel(form, "lblForeColorAb");
-  fraAbnormal->setEnabled(false);
-  connect(chkCaution, &QCheckBox::toggled, this, [=, this](bool on) {
-    fraAbnormal->setEnabled(on);
-    if (on) {
-      colourSample(2, back());
-      colourSample(3, fore());
-    } else {
-      dropInvalid(*txtUp_, upper(), kUpperLimit);
-      dropInvalid(*txtDown_, lower(), kLowerLimit);
-    }
-  });
+  fraAbnormal_->setEnabled(false);
+  connect(chkCaution, &QCheckBox::toggled, this, &frmMoniNumSet::chkCaution_Click);
+}
+
+void frmMoniNumSet::chkCaution_Click(bool on) {
+  fraAbnormal_->setEnabled(on);
+  const auto& record = gNumMoni.at(monitorIndex());
+  if (on) {
+    colourSample(2, record.NUM_C_BACK);
+    colourSample(3, record.NUM_C_FORE);
+  } else {
+    dropInvalid(*txtUp_, record.NUM_CVAL_UP, kUpperLimit);
+    dropInvalid(*txtDown_, record.NUM_CVAL_DOWN, kLowerLimit);
+  }
 }
 
 frmMoniNumSet::Sample frmMoniNumSet::addSample(QFormLayout* form, const char* back,

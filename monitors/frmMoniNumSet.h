@@ -24,10 +24,13 @@ class frmMoniNumSet : public frmMonitorSetting {
   Sample addSample(QFormLayout* form, const char* back, const char* fore);
   void buildNormal();
   void buildAbnormal();
+  void cmbPoint_Click(int decimals);
+  void chkCaution_Click(bool on);
   void colourSample(int i, Colour colour);
 
   Sample normal_;
   Sample abnormal_;
+  QGroupBox* fraAbnormal_;
   QLineEdit* txtUp_;
   QLineEdit* txtDown_;
 };

@@ -14,8 +14,8 @@ frmMoniX_YSet::frmMoniX_YSet(QWidget* parent)
   using Rec = XYMonitorRec;
   addCaption(addFrame(tr("Basic setting"), 0, 0));
   const QString titles[kXYAxes] = {tr("Y_setting"), tr("X_setting")};
-  for (int i = 0; i < static_cast<int>(kXYAxes); ++i) {
-    const auto axis = static_cast<std::size_t>(i);
+  for (int i = 0; i < int{kXYAxes}; ++i) {
+    const std::size_t axis = i;
     auto* form = addFrame(titles[axis], 1 + i, 0);
     addSource(form, axis);
     addScale(form, tr("Scale[/div]"), elementName("cmbScale", i), moniFullScale,
@@ -30,8 +30,8 @@ frmMoniX_YSet::frmMoniX_YSet(QWidget* parent)
 
   auto* abnormal = addHiddenFrame();
   addCheck(abnormal->parentWidget(), kLone, field(records, &Rec::XY_CVAL_ONOFF));
-  for (int i = 0; i < static_cast<int>(kXYAxes); ++i) {
-    const auto axis = static_cast<std::size_t>(i);
+  for (int i = 0; i < int{kXYAxes}; ++i) {
+    const std::size_t axis = i;
     addHiddenLimits(abnormal, i, field(records, &Rec::XY_CVAL_UP, axis),
                     field(records, &Rec::XY_CVALDOWN, axis));
   }

@@ -86,8 +86,8 @@ void frmMonitorSetting::addColour(QFormLayout* form, const QString& label, int i
   form->addRow(label, holder);
   if (auto* text = qobject_cast<QLabel*>(form->labelForField(holder))) text->setBuddy(button);
   colours_[i] = area;
-  area->onClick = [this, i] { chooseColour(i); };
-  connect(button, &QPushButton::clicked, this, [this, i] { chooseColour(i); });
+  area->onClick = [this, i] { cmdColor_Click(i); };
+  connect(button, &QPushButton::clicked, this, [this, i] { cmdColor_Click(i); });
   bind(
       [=, this] {
         area->setBackColor(colour());
@@ -96,7 +96,7 @@ void frmMonitorSetting::addColour(QFormLayout* form, const QString& label, int i
       [=] { colour() = area->backColor(); });
 }
 
-void frmMonitorSetting::chooseColour(int i) {
+void frmMonitorSetting::cmdColor_Click(int i) {
   if (!guard_.checkLeft()) return;
   const auto colour = desktop().colourDialog(colourOf(i));
   if (!colour) return;
@@ -271,7 +271,7 @@ QCheckBox* frmMonitorSetting::addCheck(QWidget* parent, int i, Field<bool> flag)
 }
 
 void frmMonitorSetting::setListIndex(QComboBox& list, double number) {
-  list.setCurrentIndex(listIndex(number, static_cast<std::size_t>(list.count())));
+  list.setCurrentIndex(listIndex(number, list.count()));
 }
 
 int frmMonitorSetting::listIndexOf(const QComboBox& list) {

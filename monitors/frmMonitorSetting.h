@@ -115,6 +115,7 @@ class frmMonitorSetting : public QDialog {
   void addButtons();
 
   QGridLayout* grid() const { return grid_; }
+  std::size_t monitorIndex() const { return index_; }
 
   /// A colour was loaded or chosen.
   virtual void colourChanged(int) {}
@@ -138,7 +139,7 @@ class frmMonitorSetting : public QDialog {
                          std::span<const std::string_view> texts, EntryRule rule);
   static void setListIndex(QComboBox& list, double number);
   static int listIndexOf(const QComboBox& list);
-  void chooseColour(int i);
+  void cmdColor_Click(int i);
   void cmdSet_Click();
 
   const MonitorKind kind_;

@@ -69,7 +69,7 @@ QGroupBox* frmSetMonitor::buildGroup(const MonitorForm& group) {
   for (int i = 0; i < static_cast<int>(monitorCount(group.kind)); ++i) {
     auto* box = named(new QCheckBox(tr("monitor %1").arg(i + 1), frame), elementName(group.box, i),
                       tr("%1 %2").arg(tr(group.title)).arg(i + 1));
-    box->setChecked(flags[at][static_cast<std::size_t>(i)]);
+    box->setChecked(flags[at][i]);
     grid->addWidget(box, i % group.lines, i / group.lines);
     boxes_[at].push_back(box);
   }

@@ -15,7 +15,7 @@ constexpr int kPanelHeight = 66;  // of the panels under the picture
 // with the picture, as far as larger letters need it.
 void placePanels(BarLayout& at, int width, int height, const BarRoom& room) {
   constexpr int kGap = 4;
-  constexpr int kCount = static_cast<int>(kBars);
+  constexpr int kCount = int{kBars};
   const auto& picture = at.picWave;
   const bool packed = picture.width < room.panelRow;
   const int natural = room.panelRow / kCount;
@@ -27,8 +27,8 @@ void placePanels(BarLayout& at, int width, int height, const BarRoom& room) {
   for (int i = 0; i < kCount; ++i) {
     const double middle =
         picture.width / 4.0 * i + picture.left + picture.width / 8.0 - panel / 2.0;
-    at.picCh[static_cast<std::size_t>(i)] = {packed ? picture.left + i * panel : toRow(middle), top,
-                                             panel, std::clamp(height - top, 1, kPanelHeight)};
+    at.picCh[i] = {packed ? picture.left + i * panel : toRow(middle), top, panel,
+                   std::clamp(height - top, 1, kPanelHeight)};
   }
 }
 

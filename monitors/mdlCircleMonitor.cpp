@@ -52,7 +52,7 @@ void copyAll(const clsSurface& from, clsSurface& to) {
 
 CircleScale circleScale(const CircleMonitorRec& record) {
   const double start = record.CRL_OFFSET;
-  const double third = (static_cast<double>(record.CRL_FULL) - start) / 3;
+  const double third = (record.CRL_FULL - start) / 3;
   return {textOf(record.CRL_OFFSET), left(textOf(start + third), kScaleCharacters),
           left(textOf(start + third * 2), kScaleCharacters), textOf(record.CRL_FULL)};
 }
@@ -66,9 +66,9 @@ std::string CircleMonitor::scaleText() const {
 void CircleMonitor::init(std::span<const int32_t> slots) {
   slot_ = slots.front();
   const double start = record_.CRL_OFFSET;
-  const double span = static_cast<double>(record_.CRL_FULL) - start;
+  const double span = record_.CRL_FULL - start;
   // The dialog refuses an empty scale, a file may hold one; nothing but its ends is shown then.
-  const float perUnit = span == 0 ? 0.0F : static_cast<float>(kSweepDegrees / span);
+  const float perUnit = span == 0 ? 0 : kSweepDegrees / span;
   degrees_ = {start, kStartDegrees, perUnit};
   unit_.reload();
   wasConnected_ = true;
@@ -169,7 +169,7 @@ void CircleMonitor::drawLampFrame(clsCanvas& dial) const {
 
 void CircleMonitor::drawTicks(clsCanvas& dial, int stepDegrees, int from, int to,
                               Colour colour) const {
-  for (int d = 0; d <= static_cast<int>(kSweepDegrees); d += stepDegrees) {
+  for (int d = 0; d <= kSweepDegrees; d += stepDegrees) {
     const double sine = std::sin(d * kDegToRad);
     const double cosine = std::cos(d * kDegToRad);
     dial.line(toRow(centerX_ - from * sine), toRow(centerY_ + from * cosine),
@@ -192,7 +192,7 @@ CircleMonitor::Direction CircleMonitor::directionOf(float value) const {
 }
 
 CircleMonitor::Direction CircleMonitor::peggedDirection(Side side) const {
-  const auto radius = static_cast<double>(dialRadius_);
+  const double radius = dialRadius_;
   return side == Side::kAbove ? Direction{radius, 0} : Direction{0, radius};
 }
 
@@ -210,7 +210,7 @@ void CircleMonitor::lineAlong(clsCanvas& picture, Direction direction, double fr
 void CircleMonitor::drawMark(clsCanvas& twin, float value, Colour colour) const {
   // Also on a reversed dial, whose needle keeps to the other order.
   std::optional<Side> side;
-  if (static_cast<double>(value) < record_.CRL_OFFSET) {
+  if (double{value} < record_.CRL_OFFSET) {
     side = Side::kBelow;
   } else if (value > record_.CRL_FULL) {
     side = Side::kAbove;

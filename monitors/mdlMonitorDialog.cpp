@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "base/mdlText.h"
 #include "recorder/mdlBoxTable.h"
 #include "recorder/mdlCodeTables.h"
@@ -46,21 +46,21 @@ bool validEntry(EntryRule rule, std::string_view text) {
 }
 
 void sayInvalid() {
-  desktop().messageBox("Input Error", "Invalid", BoxButtons::kOk, BoxIcon::kExclamation);
+  showBox("Input Error", "Invalid");
 }
 
 bool limitsAgree(std::string_view upper, std::string_view lower) {
   if (readSingle(lower).value_or(0.0F) < readSingle(upper).value_or(0.0F)) return true;
-  desktop().messageBox(kEntryError, kLimitsCrossed, BoxButtons::kOk, BoxIcon::kInformation);
+  showBox(kEntryError, kLimitsCrossed, BoxIcon::kInformation);
   return false;
 }
 
 bool dialEndsDiffer(std::string_view plus, std::string_view minus) {
   const auto end = readSingle(plus);
   const auto start = readWhole(minus);
-  const bool empty = end && start && static_cast<double>(*end) == *start;
+  const bool empty = end && start && double{*end} == *start;
   if (!empty && end != readSingle(minus)) return true;
-  desktop().messageBox(kEntryError, kDialEmpty, BoxButtons::kOk, BoxIcon::kExclamation);
+  showBox(kEntryError, kDialEmpty);
   return false;
 }
 
@@ -81,8 +81,7 @@ std::vector<std::string> averageTexts() {
 }
 
 std::string sampleText(int32_t decimals) {
-  const auto at = static_cast<std::size_t>(listIndex(decimals, decimalFormat.size()));
-  return formatNumber(0, decimalFormat[at]);
+  return formatNumber(0, decimalFormat[listIndex(decimals, decimalFormat.size())]);
 }
 
 std::string numberText(float value, float fallback) {
@@ -90,7 +89,7 @@ std::string numberText(float value, float fallback) {
 }
 
 int32_t listIndex(double value, std::size_t count) {
-  const auto last = static_cast<int32_t>(count) - 1;
+  const int32_t last = count - 1;
   if (!(value > 0)) return 0;  // also what is no number
   return value >= last ? last : roundWhole(value);
 }

@@ -10,7 +10,7 @@ namespace vk {
 namespace {
 
 int32_t division(int32_t length, int i) {
-  return toRow(static_cast<double>(length) / kDivisions * i);
+  return toRow(length / double{kDivisions} * i);
 }
 
 void levelPairs(clsCanvas& picture, int32_t centerY, int32_t height, Colour colour) {
@@ -25,12 +25,12 @@ void levelPairs(clsCanvas& picture, int32_t centerY, int32_t height, Colour colo
 }  // namespace
 
 float pixelsPerUnit(int32_t extent, float full) {
-  const float scale = static_cast<float>(extent - kFramePixels) / (full * kDivisions);
+  const float scale = (extent - kFramePixels) / (full * kDivisions);
   return std::isfinite(scale) ? scale : 0;
 }
 
 float groundLevel(float full, int32_t halfDivisions) {
-  return full * static_cast<float>(halfDivisions) / 2;
+  return full * halfDivisions / 2;
 }
 
 int32_t groundShift(float full, int32_t halfDivisions, float scale) {
@@ -73,7 +73,7 @@ void drawLevels(clsCanvas& picture, int32_t centerY, int32_t height, Colour colo
 
 ExtremeMark markAt(float row, int32_t height, Colour colour) {
   if (row < 0) return {0, kYellow};
-  if (row > static_cast<float>(height - 1)) return {height - 1, kYellow};
+  if (row > height - 1) return {height - 1, kYellow};
   return {toRow(row), colour};
 }
 

@@ -95,13 +95,13 @@ void NumMonitor::takeReading(std::string_view reading) {
   }
   wasConnected_ = true;
   holdValue(*value);
-  avgSum_ += static_cast<double>(*value);
+  avgSum_ += *value;
   // A speed that is no number shows every reading.
-  if (static_cast<double>(record_.NUM_SPEED) > static_cast<double>(avgCount_)) {
+  if (double{record_.NUM_SPEED} > avgCount_) {
     ++avgCount_;
     return;
   }
-  const double mean = avgSum_ / static_cast<double>(avgCount_ + 1);
+  const double mean = avgSum_ / (avgCount_ + 1);
   avgSum_ = 0;
   avgCount_ = 0;
   finishMean(mean);
@@ -126,8 +126,8 @@ void NumMonitor::finishMean(double mean) {
 }
 
 void NumMonitor::judge(double mean) {
-  const auto up = static_cast<double>(record_.NUM_CVAL_UP);
-  const auto down = static_cast<double>(record_.NUM_CVAL_DOWN);
+  const double up = record_.NUM_CVAL_UP;
+  const double down = record_.NUM_CVAL_DOWN;
   if (!inNormal_ && mean > down && mean < up) {
     inNormal_ = true;
     draw_ = {record_.NUM_BACK, record_.NUM_FORE};

@@ -148,24 +148,23 @@ void WaveMonitor::takeUnused() {
 void WaveMonitor::collectOffset(std::string_view reading) {
   offsetSum_ += readWhole(reading).value_or(0);
   if (++offsetCount_ < kOffsetReadings) return;
-  int32_t shift = toShift(scaleY_ * static_cast<float>(offsetSum_) / kOffsetReadings);
+  int32_t shift = toShift(scaleY_ * offsetSum_ / kOffsetReadings);
   if (isTenthRange(slot_, record_.WAV_CH)) shift = toShift(shift / 10.0);
   if (isHalfVolt(slot_, record_.WAV_CH)) shift = toShift(shift * 4.0);
-  const auto& coeff = gBoxTable[static_cast<std::size_t>(slot_)].coeff;
-  cancelOffsetPx_ =
-      toShift(static_cast<float>(shift) * coeff[static_cast<std::size_t>(record_.WAV_CH)]);
+  const auto& coeff = gBoxTable[slot_].coeff;
+  cancelOffsetPx_ = toShift(shift * coeff[record_.WAV_CH]);
   setAxis();
   offsetMeasuring_ = false;
 }
 
 void WaveMonitor::addSample(float value) {
   const uint32_t now = timeGetTime();
-  const float elapsed = static_cast<float>(now - lastTime_);
-  const float sweep = kSweepMs[static_cast<std::size_t>(speedIndex(record_.WAV_SPEED))];
+  const float elapsed = now - lastTime_;
+  const float sweep = kSweepMs[speedIndex(record_.WAV_SPEED)];
   // A stand-still may last for thousands of screens; beyond this no column is left of them.
-  const float columns = std::min(elapsed / sweep * static_cast<float>(width_), kFarOff);
+  const float columns = std::min(elapsed / sweep * width_, kFarOff);
   int32_t sweepStep = toRow(columns);
-  sweepFrac_ += columns - static_cast<float>(sweepStep);
+  sweepFrac_ += columns - sweepStep;
   if (sweepFrac_ > 1) {
     sweepFrac_ -= 1;
     sweepStep += 1;
@@ -191,8 +190,7 @@ void WaveMonitor::addStroke(Stroke stroke) {
   // not more than the width of them can be in view.
   if (strokes_.size() >= 2 * static_cast<std::size_t>(width_)) {
     int32_t columns = 0;
-    const auto first = static_cast<std::ptrdiff_t>(firstVisible(columns));
-    strokes_.erase(strokes_.begin(), strokes_.begin() + first);
+    strokes_.erase(strokes_.begin(), strokes_.begin() + firstVisible(columns));
   }
   strokes_.push_back(stroke);
 }

@@ -45,7 +45,7 @@ XYLayout xyLayout(int width, int height, const XYMetrics& metrics) {
   constexpr int kLargestValue = 40;
   constexpr int kValueShape = 8;  // the column is as many times wider than the value is high
   constexpr int kMargin = 2;
-  constexpr int kAxes = static_cast<int>(kXYAxes);
+  constexpr int kAxes = int{kXYAxes};
 
   const int side = std::max(1, std::min(height - kTop - kBelow, width - kLeft - kLabels));
   XYLayout all{};
