@@ -2,8 +2,8 @@
 #include "monitors/mdlMonitorPlace.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
-#include <optional>
 #include <vector>
 
 namespace vk {
@@ -12,9 +12,10 @@ namespace {
 
 constexpr int kTitle = 30;  // of a child window, its rim included
 
-bool overlap(const MonitorPlace& a, const MonitorPlace& b) {
-  return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
-         b.top < a.top + a.height;
+int64_t overlap(const MonitorPlace& a, const MonitorPlace& b) {
+  const int64_t columns = std::min(a.left + a.width, b.left + b.width) - std::max(a.left, b.left);
+  const int64_t rows = std::min(a.top + a.height, b.top + b.height) - std::max(a.top, b.top);
+  return std::max<int64_t>(0, columns) * std::max<int64_t>(0, rows);
 }
 
 /// The windows would show their titles in one place.
@@ -22,29 +23,27 @@ bool sameCorner(const MonitorPlace& a, const MonitorPlace& b) {
   return std::abs(a.left - b.left) < kTitle && std::abs(a.top - b.top) < kTitle;
 }
 
-/// Left to right, then top to bottom, along the edges of the others. The first row may be higher
-/// than the area, which grows or scrolls.
-std::optional<MonitorPlace> gapFor(MonitorPlace window, std::span<const MonitorPlace> others,
+/// Beside and below the others and at the far edges of the area, all of it in the area, but for the
+/// first row: the area grows downward or scrolls.
+std::vector<MonitorPlace> placesIn(MonitorPlace window, std::span<const MonitorPlace> others,
                                    int areaWidth, int areaHeight) {
-  std::vector<int> lefts{0};
-  std::vector<int> tops{0};
+  std::vector<int> lefts{0, areaWidth - window.width};
+  std::vector<int> tops{0, areaHeight - window.height};
   for (const auto& other : others) {
-    lefts.push_back(std::max(0, other.left + other.width));
-    tops.push_back(std::max(0, other.top + other.height));
+    lefts.push_back(other.left + other.width);
+    tops.push_back(other.top + other.height);
   }
   std::ranges::sort(lefts);
   std::ranges::sort(tops);
+  std::vector<MonitorPlace> places;
   for (const int top : tops) {
-    if (top > 0 && top + window.height > areaHeight) continue;
+    if (top < 0 || (top > 0 && top + window.height > areaHeight)) continue;
     for (const int left : lefts) {
-      if (left + window.width > areaWidth) continue;
-      window.left = left;
-      window.top = top;
-      if (std::ranges::none_of(others, [&](const auto& other) { return overlap(window, other); }))
-        return window;
+      if (left < 0 || left + window.width > areaWidth) continue;
+      places.push_back({left, top, window.width, window.height});
     }
   }
-  return std::nullopt;
+  return places;
 }
 
 }  // namespace
@@ -55,15 +54,20 @@ MonitorPlace openingPlace(const MonitorPlace& stored, std::span<const MonitorPla
     return std::ranges::any_of(others, [&](const auto& other) { return sameCorner(place, other); });
   };
   if (stored.left != 0 || stored.top != 0 || !taken(stored)) return stored;
-  if (const auto gap = gapFor(stored, others, areaWidth, areaHeight)) return *gap;
-  // Each window takes one step at most, so a step is free before all of them are tried; windows
-  // between two steps take both.
-  MonitorPlace place = stored;
-  for (std::size_t step = 0; step <= 2 * others.size() && taken(place); ++step) {
-    place.left += kTitle;
-    place.top += kTitle;
+  // A step that is free there always is, also where no other place is left.
+  MonitorPlace step = stored;
+  while (taken(step)) {
+    step.left += kTitle;
+    step.top += kTitle;
   }
-  return place;
+  auto places = placesIn(stored, others, areaWidth, areaHeight);
+  std::erase_if(places, taken);
+  places.push_back(step);
+  return *std::ranges::min_element(places, {}, [&](const MonitorPlace& place) {
+    int64_t covered = 0;
+    for (const auto& other : others) covered += overlap(place, other);
+    return covered;
+  });
 }
 
 }  // namespace vk

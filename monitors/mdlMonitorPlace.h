@@ -16,9 +16,8 @@ struct MonitorPlace {
 };
 
 /// Where a window opens that was never placed, which its record tells by the corner of the area. It
-/// takes that corner unless the title of another window lies there; then the first gap that has
-/// room for it, else it lies on the others, each such window a title bar below and right of the one
-/// before.
+/// takes that corner unless the title of another window lies there; then the place, in the area and
+/// with a title of its own, where it covers the others least, and of such the topmost and leftmost.
 MonitorPlace openingPlace(const MonitorPlace& stored, std::span<const MonitorPlace> others,
                           int areaWidth, int areaHeight);
 
