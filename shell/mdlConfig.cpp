@@ -9,6 +9,7 @@
 
 #include "base/mdlDataFolder.h"
 #include "base/mdlFile.h"
+#include "base/mdlGeneral.h"
 #include "link/mdlUSBCommand.h"
 #include "link/vk240q_lib.h"
 #include "monitors/mdlMonitorCycle.h"
@@ -69,20 +70,6 @@ void clearFolder(const fs::path& folder) {
 }
 
 }  // namespace
-
-void takeSettings(const Settings& settings) {
-  gNumMoni = settings.numerical;
-  gWaveMoni = settings.wave;
-  gXYMoni = settings.xy;
-  gBarMoni = settings.bar;
-  gCircleMoni = settings.circle;
-  gShowShortcut = settings.showShortcut;
-  gShowStatus = settings.showStatus;
-  gStatusMode = settings.statusMode;
-  gMainBox = settings.mainBox;
-  gStatusContents = settings.statusContents;
-  gDefaultFolder = settings.defaultFolder;
-}
 
 void setDefaults() {
   resetMonitorRecords();

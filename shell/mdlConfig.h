@@ -9,31 +9,12 @@
 #include <string>
 #include <string_view>
 
-#include "base/mdlGeneral.h"
-#include "monitors/mdlMonitorRecords.h"
 #include "shell/mdlConfigText.h"
 
 namespace vk {
 
 /// Result of the last scan for boxes, a StartMode.
 extern int32_t gStartMode;
-
-/// All that the configuration file keeps, as one value.
-struct Settings {
-  decltype(gNumMoni) numerical = gNumMoni;
-  decltype(gWaveMoni) wave = gWaveMoni;
-  decltype(gXYMoni) xy = gXYMoni;
-  decltype(gBarMoni) bar = gBarMoni;
-  decltype(gCircleMoni) circle = gCircleMoni;
-  bool showShortcut = gShowShortcut;
-  bool showStatus = gShowStatus;
-  int32_t statusMode = gStatusMode;
-  int32_t mainBox = gMainBox;
-  int32_t statusContents = gStatusContents;
-  std::string defaultFolder = gDefaultFolder;
-};
-/// Puts them back.
-void takeSettings(const Settings& settings);
 
 /// Every setting, record and table of the program as before any file was read; the read time-out
 /// of the instrument library goes to its default.

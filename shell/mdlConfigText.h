@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The text of the configuration file: two warning lines, a title and the keys, each with one value
-// or with the values of all records of a monitor kind as a comma list. The keys of the monitors come
-// from the rows of their kinds. The view settings that only this file knows stand here too.
+// or with the values of all records of a monitor kind as a comma list. The keys of the monitors
+// come from the rows of their kinds. The view settings that only this file knows stand here too.
 //
 // Reading finds the first occurrence of a key anywhere in the text, so a caption that spells a
 // later key takes its place, and a caption with a comma shifts the captions behind it.

@@ -2,6 +2,7 @@
 #include "shell/mdlMain.h"
 
 #include <filesystem>
+#include <string>
 #include <system_error>
 #include <tuple>
 
@@ -107,13 +108,13 @@ bool autoReconnect(const LogBox& log) {
   if (gReconnecting) return false;
   const FlagGuard guard(gReconnecting);
   unloadMonitors();
-  const Settings settings;
+  const std::string settings = configText();
   const bool kept = writeConfig();
   setDefaults();
   readConfig();
   // A box that is refused reads the file once more; what the file could not take goes past it.
   std::ignore = connectBoxes(false, log);
-  if (!kept) takeSettings(settings);
+  if (!kept) std::ignore = readConfigText(settings);
   openStoredMonitors();
   waitSeconds(kSettleSeconds);
   return !desktop().ending();
