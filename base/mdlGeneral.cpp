@@ -110,7 +110,7 @@ FileDialogResult fileDialog(FileDialogKind kind, const std::string& title,
   return result;
 }
 
-void waitSeconds(double seconds) {
+void waitSeconds(double seconds, const std::function<bool()>& enough) {
   // Also leaves at once for a value that is no number.
   if (!(seconds > 0)) return;
   const auto wanted = static_cast<int64_t>(std::min(std::ceil(seconds * 1000), 2e9));
@@ -118,6 +118,7 @@ void waitSeconds(double seconds) {
   for (auto elapsed = elapsedSince(start); elapsed < wanted && !desktop().ending();
        elapsed = elapsedSince(start)) {
     desktop().waitEvents(static_cast<int>(wanted - elapsed));
+    if (enough && enough()) return;
   }
 }
 

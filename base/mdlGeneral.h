@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -49,8 +50,9 @@ struct FileDialogResult {
 FileDialogResult fileDialog(FileDialogKind kind, const std::string& title,
                             const std::string& filter);
 
-/// Waits and yields to the event loop; leaves early when the program is ending.
-void waitSeconds(double seconds);
+/// Waits and yields to the event loop; leaves early when the program is ending, and as soon as
+/// `enough` is true after a yield.
+void waitSeconds(double seconds, const std::function<bool()>& enough = {});
 
 /// 0 to 100 for a fraction; without showFull 100 shows as 99 and 0 as 1.
 int32_t progressPercent(double fraction, bool showFull);

@@ -13,7 +13,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-#include "base/clsDesktop.h"
+#include "base/mdlGuard.h"
 #include "conditions/mdlConditionList.h"
 #include "desktop/qtText.h"
 
@@ -23,9 +23,10 @@ frmList::frmList(int32_t serial, QWidget* parent) : QDialog(parent) {
   named(this, QStringLiteral("frmList"));
   setWindowTitle(toQt(kListCaption));
   build();
-  desktop().setHourglass(true);
-  fill(serial);
-  desktop().setHourglass(false);
+  {
+    const HourglassGuard hourglass;
+    fill(serial);
+  }
   fitToList();
 }
 
@@ -55,8 +56,7 @@ void frmList::build() {
   auto* inside = new QVBoxLayout(frame);
   inside->addWidget(picList_);
 
-  auto* cmdClose =
-      named(new QPushButton(QStringLiteral("Close"), this), QStringLiteral("cmdClose"));
+  auto* cmdClose = named(new QPushButton(tr("Close"), this), QStringLiteral("cmdClose"));
   cmdClose->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);

@@ -7,13 +7,13 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "base/mdlGuard.h"
+#include "base/mdlBox.h"
 #include "base/mdlText.h"
+#include "conditions/mdlSendConditions.h"
 #include "conditions/mdlSettingFile.h"
 #include "desktop/clsTimerPause.h"
 #include "desktop/frmStatusBar.h"
 #include "desktop/qtText.h"
-#include "link/mdlUSBCommand.h"
 #include "recorder/mdlBoxTable.h"
 #include "recorder/mdlCodeTables.h"
 #include "recorder/mdlSelectMeter.h"
@@ -49,11 +49,6 @@ std::string textOf(const QComboBox& list) {
   return fromQt(list.currentText());
 }
 
-void say(std::string_view title, std::string_view text) {
-  desktop().messageBox(std::string(title), std::string(text), BoxButtons::kOk,
-                       BoxIcon::kExclamation);
-}
-
 void enableAll(bool on, std::initializer_list<QWidget*> widgets) {
   for (auto* widget : widgets) widget->setEnabled(on);
 }
@@ -68,26 +63,21 @@ bool openMeasureSetting(int32_t serial, QWidget* parent, QTimer& tmrStatus) {
 
 // --- opening ------------------------------------------------------------------------------------
 
-frmSetting::frmSetting(int32_t serial, QWidget* parent) : QDialog(parent), guard_({}, {}) {
+frmSetting::frmSetting(int32_t serial, QWidget* parent)
+    : QDialog(parent), linkBusy_(gUSBBusy), guard_({}, {}) {
   build();
   open(serial);
   centreOnScreen(*this);
 }
 
-frmSetting::~frmSetting() {
-  gUSBBusy = 0;
-}
-
 void frmSetting::open(int32_t serial) {
   const FlagGuard lock(listsLocked_);
-  // Until the first command ends; beyond it the status poll is kept off by its stopped timer.
-  gUSBBusy = 1;
-  lblSerNum_->setText(serial == kNoSerial ? QStringLiteral("---") : toQt(serialText(serial)));
+  lblSerNum_->setText(serial == kNoSerial ? tr("---") : toQt(serialText(serial)));
   lblSerNumDmy_->setText(toQt(vk::textOf(serial)));
   const int32_t found = slotIndexOf(serial);
   const int32_t slot = found > 0 ? found : kFileRow;
   modelOfDialog_ = found > 0 ? gBoxTable[static_cast<std::size_t>(found)].model : kNoModel;
-  lblMeter_->setText(found > 0 ? toQt(textAt(modelName, modelOfDialog_)) : QStringLiteral("---"));
+  lblMeter_->setText(found > 0 ? toQt(textAt(modelName, modelOfDialog_)) : tr("---"));
   fillFixedLists();
   for (std::size_t i = 1; i <= kChannels; ++i)
     fillRange(i, gBoxTable[static_cast<std::size_t>(slot)].carrier[i]);
@@ -96,19 +86,18 @@ void frmSetting::open(int32_t serial) {
 }
 
 void frmSetting::fillFixedLists() {
-  const bool low = isLowFamily(modelOfDialog_);
   fill(*cmbChannelMode_, chModeName);
   fill(*cmbTrigger_, trgModeName);
   for (std::size_t i = 1; i <= kChannels; ++i) {
     const Channel& channel = channels_[i];
     fill(*channel.cmbCarrSet, carrierEntries(modelOfDialog_));
-    if (low) channel.cmbCarrSet->setCurrentIndex(0);
+    if (channel.cmbCarrSet->count() == 1) channel.cmbCarrSet->setCurrentIndex(0);
     fill(*channel.cmbFilterSet, filterEntries(modelOfDialog_));
     fill(*channel.cmbBalSet, onOffName);
     fill(*channel.cmbTrgSlopeSet, trgSlopeName);
     fill(*channel.cmbUnit, unitName);
   }
-  lblAmp2_->setEnabled(!low);
+  lblAmp2_->setEnabled(modelFamily(modelOfDialog_).excitation);
 }
 
 void frmSetting::fillRange(std::size_t channel, int32_t carrier) {
@@ -151,12 +140,10 @@ void frmSetting::showRecord(int32_t slot) {
 }
 
 void frmSetting::showBalance(int32_t slot) {
-  MeasureSetting& row = gBoxTable[static_cast<std::size_t>(slot)];
-  if (usbSTA(row.handle) != kUsbOk) return;
+  const auto balance = fetchBalance(gBoxTable[static_cast<std::size_t>(slot)]);
+  if (!balance) return;
   for (std::size_t i = 1; i <= kChannels; ++i) {
-    const std::string digit = mid(gLastReply, 24 + i, 1);
-    lookup(onOffCode, digit, row.balance[i]);
-    selectPosition(*channels_[i].cmbBalSet, findIndex(onOffCode, digit));
+    selectPosition(*channels_[i].cmbBalSet, (*balance)[i]);
   }
 }
 
@@ -276,7 +263,7 @@ void frmSetting::cmbCarrSet_Change(std::size_t channel) {
 
 bool frmSetting::levelTaken(Channel& channel) {
   const FieldEntry entry = levelEntered(fromQt(channel.txtTriggerLevel->text()));
-  if (!entry.accepted) say(kLevelErrorTitle, entry.message);
+  if (!entry.accepted) showBox(kLevelErrorTitle, entry.message);
   channel.txtTriggerLevel->setText(
       toQt(entry.accepted ? entry.text : levelRestored(channel.level)));
   return entry.accepted;
@@ -287,7 +274,7 @@ bool frmSetting::coeffTaken(Channel& channel) {
   if (entry.accepted) {
     channel.coeff = entry.text;
   } else {
-    say(kCoeffErrorTitle, entry.message);
+    showBox(kCoeffErrorTitle, entry.message);
   }
   channel.txtCoeff->setText(toQt(channel.coeff));
   return entry.accepted;
@@ -312,37 +299,22 @@ bool frmSetting::applyConditions() {
   PerChannel<int16_t> slopes;
   for (std::size_t i = 1; i <= kChannels; ++i)
     slopes[i] = static_cast<int16_t>(shown.channel[i].slope);
-  if (triggerCaution(mode(), shown.trigger, slopes)) say(kTriggerCautionTitle, kTriggerCautionText);
+  if (triggerCaution(mode(), shown.trigger, slopes))
+    showBox(kTriggerCautionTitle, kTriggerCautionText);
   if (const int32_t error = checkControls(shown, dialogRecord_); error != kSettingOk) {
     MeasureSetErrorView(error);
     return false;
   }
-  const CommandTexts texts = buildCommandTexts(shown);
-  frmStatusBar status(QStringLiteral("Set"), this);
-  status.setLines(QStringLiteral("Now Setting VK-480Q."));
+  const ConditionsToSend send{dialogRecord_.serial, buildCommandTexts(shown),
+                              dialogRecord_.channelMode, dialogRecord_.balance};
+  frmStatusBar status(tr("Set"), this);
+  status.setLines(tr("Now Setting VK-480Q."));
   status.open();
-  if (!sendConditions(texts, status)) return false;
+  if (!sendConditions(send, {.progress = [&status](double f) { status.setProgress(f); }})) {
+    return false;
+  }
   storeRecord(slotIndexOf(dialogRecord_.serial), dialogRecord_);
   return true;
-}
-
-bool frmSetting::sendConditions(const CommandTexts& texts, frmStatusBar& status) {
-  const int32_t serial = dialogRecord_.serial;
-  // False when the program ended during the yield.
-  const auto proceed = [&status](double fraction) {
-    status.setProgress(fraction);
-    desktop().doEvents();
-    return !desktop().ending();
-  };
-  if (usbSET(serial, texts.setting) != kUsbOk || !proceed(0.25)) return false;
-  if (usbUNT(serial, texts.unit) != kUsbOk || !proceed(0.5)) return false;
-  if (usbCEF(serial, texts.coeff) != kUsbOk || !proceed(0.75)) return false;
-  const int count = channelCount(dialogRecord_.channelMode);
-  for (int i = 1; i <= count; ++i) {
-    const auto channel = static_cast<std::size_t>(i);
-    if (usbDMC(serial, i, dialogRecord_.balance[channel]) != kUsbOk) return false;
-  }
-  return proceed(1.0);
 }
 
 void frmSetting::cmdLoad_Click() {

@@ -13,8 +13,10 @@
 #include <string_view>
 #include <vector>
 
+#include "base/mdlGuard.h"
 #include "conditions/mdlDialogConditions.h"
 #include "desktop/clsFieldGuard.h"
+#include "link/mdlExchange.h"
 
 class QComboBox;
 class QGridLayout;
@@ -25,8 +27,6 @@ class QPushButton;
 class QTimer;
 
 namespace vk {
-
-class frmStatusBar;
 
 /// Shows the dialog for the box with that serial and returns when it is closed; with kNoSerial it
 /// opens without a box, and with a cancelled selection (kSelectCancelled) or all meters
@@ -40,7 +40,6 @@ class frmSetting : public QDialog {
  public:
   /// Fills the controls, and asks the box for its balance state. Shows nothing yet.
   explicit frmSetting(int32_t serial, QWidget* parent = nullptr);
-  ~frmSetting() override;
   /// Escape, the close box and cmdCancel; not while the box is being set.
   void reject() override;
 
@@ -105,8 +104,8 @@ class frmSetting : public QDialog {
   void cmdLoad_Click();
   void cmdSave_Click();
   bool applyConditions();
-  bool sendConditions(const CommandTexts& texts, frmStatusBar& status);
 
+  const FlagGuard<int16_t> linkBusy_;  ///< nobody polls while the dialog is there
   int32_t modelOfDialog_ = kNoModel;
   MeasureSetting dialogRecord_;
   bool listsLocked_ = false;  ///< lists are being filled: the change handlers are mute

@@ -10,28 +10,14 @@
 #include "link/mdlUSBCommand.h"
 #include "recorder/mdlBoxTable.h"
 #include "recorder/mdlCodeTables.h"
+#include "recorder/mdlModel.h"
+#include "recorder/mdlWireText.h"
 
 namespace vk {
 
 namespace {
 
 using List = std::vector<ConditionLine>;
-
-struct Spelling {
-  std::string_view code;
-  std::string_view shown;
-};
-
-constexpr Spelling kRangesLow[] = {{"05", " 5000 ue"}, {"10", "10000 ue"}, {"20", "20000 ue"}};
-constexpr Spelling kFiltersLow[] = {
-    {"03", " 30 Hz"}, {"10", " 100 Hz"}, {"30", " 300 Hz"}, {"PS", " PASS"}};
-
-std::string shownOf(std::span<const Spelling> table, std::string_view code) {
-  for (const Spelling& row : table) {
-    if (row.code == code) return std::string(row.shown);
-  }
-  return {};
-}
 
 /// The text beside a code; empty for a code that the table does not hold.
 std::string nameOf(std::span<const std::string_view> codes, std::span<const std::string_view> names,
@@ -52,34 +38,30 @@ std::string perChannel(Value value) {
   return dropLastComma(text);
 }
 
-/// The settings string by its fixed positions, which count from 1.
+/// The settings string of a box.
 struct Conditions {
   std::string text;
-  bool low = false;
-
-  std::string field(std::size_t at, std::size_t width, std::size_t channel = 1) const {
-    return mid(text, at + width * (channel - 1), width);
-  }
-  std::string carrier(std::size_t channel) const { return field(50, 1, channel); }
-  std::string level(std::size_t channel) const { return field(23, 4, channel); }
+  const ModelFamily& family;
 
   std::string rangeShown(std::size_t channel) const {
-    const std::string code = field(2, 2, channel);
-    if (low) return shownOf(kRangesLow, code);
-    const bool wide = carrier(channel) == carrierCode[kCarrier05];
-    return nameOf(rangeCode, wide ? rangeName05 : rangeName, code);
+    const bool wide = setting_text::kCarrier.of(text, channel) == carrierCode[kCarrier05];
+    return nameOf(family.rangeCodes, wide ? family.rangesListed05 : family.rangesListed,
+                  setting_text::kRange.of(text, channel));
   }
   std::string filterShown(std::size_t channel) const {
-    const std::string code = field(10, 2, channel);
-    return low ? shownOf(kFiltersLow, code) : nameOf(filterCode, filterName, code);
+    return nameOf(family.filterCodes, family.filtersListed,
+                  setting_text::kFilter.of(text, channel));
   }
   std::string carriersShown() const {
-    if (low) return "2.0V, 2.0V, 2.0V, 2.0V";
-    return perChannel([&](std::size_t c) { return nameOf(carrierCode, carrierName, carrier(c)); });
+    if (!family.excitation) return "2.0V, 2.0V, 2.0V, 2.0V";
+    return perChannel([&](std::size_t channel) {
+      return nameOf(carrierCode, carrierName, setting_text::kCarrier.of(text, channel));
+    });
   }
+  std::string level(std::size_t channel) const { return setting_text::kLevel.of(text, channel); }
   std::string slopeShown(std::size_t channel) const {
     if (level(channel).starts_with('N')) return "OFF";
-    return nameOf(trgSlopeCode, trgSlopeName, field(19, 1, channel));
+    return nameOf(trgSlopeCode, trgSlopeName, setting_text::kSlope.of(text, channel));
   }
 };
 
@@ -108,18 +90,23 @@ void addConditions(List& list, int32_t serial) {
     list.push_back({"Channel Mode", "USB ERROR (MEASURE SETTING)"});
     return;
   }
-  const Conditions box{replyLine(), isLowFamily(familyOf(serial))};
-  list.push_back({"Channel Mode", nameOf(chModeCode, chModeName, box.field(1, 1))});
+  const Conditions box{replyLine(), modelFamily(familyOf(serial))};
+  list.push_back(
+      {"Channel Mode", nameOf(chModeCode, chModeName, setting_text::kMode.of(box.text))});
   list.push_back({"Range", perChannel([&](std::size_t c) { return box.rangeShown(c); })});
   list.push_back({"Excitation", box.carriersShown()});
   list.push_back({"Filter", perChannel([&](std::size_t c) { return box.filterShown(c); })});
-  list.push_back({"Trigger Mode", nameOf(trgModeCode, trgModeName, box.field(18, 1))});
+  list.push_back(
+      {"Trigger Mode", nameOf(trgModeCode, trgModeName, setting_text::kTrigger.of(box.text))});
   list.push_back({"Trigger Slope", perChannel([&](std::size_t c) { return box.slopeShown(c); })});
   list.push_back(
       {"Trigger Level", perChannel([&](std::size_t c) { return levelShown(box.level(c)); })});
-  list.push_back({"Sampling", nameOf(samplingCode, samplingName, box.field(39, 4))});
-  list.push_back({"Data Size", nameOf(dataSizeCode, dataSizeName, box.field(46, 4))});
-  list.push_back({"PreArea", nameOf(preAreaCode, preAreaName, box.field(43, 3))});
+  list.push_back(
+      {"Sampling", nameOf(samplingCode, samplingName, setting_text::kSampling.of(box.text))});
+  list.push_back(
+      {"Data Size", nameOf(dataSizeCode, dataSizeName, setting_text::kDataSize.of(box.text))});
+  list.push_back(
+      {"PreArea", nameOf(preAreaCode, preAreaName, setting_text::kPreArea.of(box.text))});
 }
 
 void addUnits(List& list, int32_t serial) {
@@ -152,21 +139,21 @@ std::string addStatus(List& list, int32_t serial) {
     return {};
   }
   const std::string reply = replyLine();
-  list.push_back({"Date/Time", "20" + mid(reply, 4, 17)});
+  list.push_back({"Date/Time", "20" + status_text::kDateTime.of(reply)});
   list.push_back({"Master/Slave", staSyncMode() == 0 ? "Master" : "Slave"});
   list.push_back({"Balance", perChannel([&](std::size_t channel) -> std::string {
-                    return mid(reply, 24 + channel, 1) == "0" ? "ON" : "OFF";
+                    return status_text::kBalance.of(reply, channel) == onOffCode[0] ? "ON" : "OFF";
                   })});
-  list.push_back({"BOOT ROM Version", mid(reply, 38, 4)});
-  list.push_back({"MAIN ROM Version", mid(reply, 43, 4)});
-  return errorText(readWhole(left(reply, 2)).value_or(0));
+  list.push_back({"BOOT ROM Version", status_text::kBootRom.of(reply)});
+  list.push_back({"MAIN ROM Version", status_text::kMainRom.of(reply)});
+  return errorText(readWhole(status_text::kState.of(reply)).value_or(0));
 }
 
 std::string cardShown(int32_t result) {
   if (result == kUsbNoCard) return "CF card not inserted.";
   if (result != kUsbOk) return "USB ERROR (FILE)";
   const std::string reply = replyLine();
-  return left(reply, 3) + "/" + mid(reply, 5, 3);
+  return card_text::kMeasured.of(reply) + "/" + card_text::kReserved.of(reply);
 }
 
 }  // namespace

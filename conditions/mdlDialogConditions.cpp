@@ -34,12 +34,6 @@ std::vector<std::string> entriesOf(std::span<const std::string_view> names,
   return entries;
 }
 
-std::vector<std::string> entriesOf(std::span<const std::string_view> names, std::size_t first,
-                                   std::size_t count) {
-  const auto part = names.subspan(first, count);
-  return {part.begin(), part.end()};
-}
-
 /// The four items with commas between them.
 template <typename Item>
 std::string listOf(const PerChannel<ChannelControls>& channels, Item item) {
@@ -57,17 +51,20 @@ std::span<const std::string_view> rangeNames(int32_t carrier) {
   return carrier == kCarrier05 ? rangeName05 : rangeName;
 }
 
+std::span<const std::string_view> rangeNames(int32_t model, int32_t carrier) {
+  return rangeNames(modelFamily(model).excitation ? carrier : kCarrier20);
+}
+
 std::vector<std::string> rangeEntries(int32_t model, int32_t carrier) {
-  if (isLowFamily(model)) return entriesOf(rangeName, rangeOfferedLow);
-  return entriesOf(rangeNames(carrier), rangeOffered);
+  return entriesOf(rangeNames(model, carrier), modelFamily(model).rangesOffered);
 }
 
 std::vector<std::string> carrierEntries(int32_t model) {
-  return isLowFamily(model) ? entriesOf(carrierName, 2, 1) : entriesOf(carrierName, 1, 2);
+  return entriesOf(carrierName, modelFamily(model).carriersOffered);
 }
 
 std::vector<std::string> filterEntries(int32_t model) {
-  return isLowFamily(model) ? entriesOf(filterName, 1, 4) : entriesOf(filterName, 0, 7);
+  return entriesOf(filterName, modelFamily(model).filtersOffered);
 }
 
 ChannelControls channelControls(const MeasureSetting& record, std::size_t channel) {
@@ -135,20 +132,7 @@ CommandTexts buildCommandTexts(const DialogControls& controls) {
 
 void storeRecord(int32_t slot, const MeasureSetting& record) {
   if (slot < 1 || slot > kFileRow) return;
-  MeasureSetting& row = gBoxTable[static_cast<std::size_t>(slot)];
-  row.channelMode = record.channelMode;
-  row.triggerMode = record.triggerMode;
-  row.sampling = record.sampling;
-  row.preArea = record.preArea;
-  row.dataSize = record.dataSize;
-  row.range = record.range;
-  row.filter = record.filter;
-  row.triggerSlope = record.triggerSlope;
-  row.triggerLevel = record.triggerLevel;
-  row.unit = record.unit;
-  row.coeff = record.coeff;
-  row.balance = record.balance;
-  row.carrier = record.carrier;
+  gBoxTable[static_cast<std::size_t>(slot)].conditions() = record.conditions();
 }
 
 DialogEnable dialogEnable(int32_t model, int32_t mode, int32_t trigger,
@@ -159,7 +143,7 @@ DialogEnable dialogEnable(int32_t model, int32_t mode, int32_t trigger,
     const bool used = static_cast<int32_t>(i) <= channelCount(mode);
     ChannelEnable& channel = enable.channel[i];
     channel.channel = used;
-    channel.carrier = used && !isLowFamily(model);
+    channel.carrier = used && modelFamily(model).excitation;
     channel.slope = used && enable.trigger;
     channel.level = channel.slope && slopes[i] != kSlopeOff;
   }

@@ -45,6 +45,8 @@ struct DialogControls {
 
 /// The names of all ranges at an excitation (carrier index).
 std::span<const std::string_view> rangeNames(int32_t carrier);
+/// The same on a model, which may have no choice of excitation.
+std::span<const std::string_view> rangeNames(int32_t model, int32_t carrier);
 /// Entries of cmbRangeSet for an excitation (carrier index; the VK-240Q family has one list).
 std::vector<std::string> rangeEntries(int32_t model, int32_t carrier);
 std::vector<std::string> carrierEntries(int32_t model);

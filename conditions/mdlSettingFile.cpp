@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <span>
 
-#include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "base/mdlFile.h"
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
@@ -49,10 +49,6 @@ enum Line : std::size_t {
 };
 using LineValues = std::array<std::string, setFileLabel.size()>;
 
-void showError(const std::string& title, const std::string& text) {
-  desktop().messageBox(title, text, BoxButtons::kOk, BoxIcon::kExclamation);
-}
-
 // --- writing ------------------------------------------------------------------------------------
 
 /// Four words, `word` of each channel, with commas between them.
@@ -73,8 +69,7 @@ std::string fourWords(Words words, const PerChannel<int16_t>& indices) {
 /// A range list without a selection writes an empty word, which no reader takes for a range.
 std::string rangeWords(const DialogControls& controls, const MeasureSetting& record) {
   return fourWords([&](std::size_t channel) {
-    const Words names =
-        rangeNames(isLowFamily(controls.model) ? kCarrier20 : record.carrier[channel]);
+    const Words names = rangeNames(controls.model, record.carrier[channel]);
     return textAt(rangeFile, findIndex(names, controls.channel[channel].range));
   });
 }
@@ -197,7 +192,7 @@ std::string chosenPath(FileDialogKind kind, int32_t title) {
 }
 
 bool fileWorked(int32_t error, const std::string& path) {
-  if (error != kFileOk) showError("File Error", fileErrorText(error) + "\r\n" + path);
+  if (error != kFileOk) showBox("File Error", fileErrorText(error) + "\r\n" + path);
   return error == kFileOk;
 }
 
@@ -205,7 +200,7 @@ bool fileWorked(int32_t error, const std::string& path) {
 
 std::string buildSettingFileText(const DialogControls& controls) {
   const LineValues values = valuesOf(controls);
-  std::string text(modelName[isLowFamily(controls.model) ? kVk240Q : kVk480Q]);
+  std::string text(modelName[modelFamily(controls.model).dialect]);
   text += kDialectLine;
   for (std::size_t line = 0; line < values.size(); ++line) {
     text += kLineEnd;
@@ -249,7 +244,7 @@ int32_t readSettingFile(std::string_view text) {
   MeasureSetting record = zeroedSetting();
   record.model = high ? kVk480Q : kVk240Q;
   if ((high ? parseHighDialect(text, record) : parseLowDialect(text, record)) != 0) {
-    showError("Setting file Error", "Cannot read setting file.");
+    showBox("Setting file Error", "Cannot read setting file.");
     return 1;
   }
   if (const int32_t error = checkSetting(record); error != kSettingOk) {
@@ -263,8 +258,7 @@ int32_t readSettingFile(std::string_view text) {
 void MeasureSetErrorView(int32_t number) {
   const std::string text(settingErrorText(number));
   if (text.empty()) return;
-  desktop().messageBox(std::string(kSettingErrorTitle), text, BoxButtons::kOk,
-                       BoxIcon::kInformation);
+  showBox(kSettingErrorTitle, text, BoxIcon::kInformation);
 }
 
 bool saveSettingFile(const DialogControls& controls) {
@@ -286,8 +280,9 @@ bool loadSettingFile(int32_t dialogModel) {
   std::string text;
   if (!fileWorked(readTextFile(path, text), path)) return false;
   if (readSettingFile(text) != 0) return false;
-  if (isLowFamily(dialogModel) && !isLowFamily(gBoxTable[kFileRow].model)) {
-    showError("ﾌｧｲﾙｴﾗｰ", path + "\r\nVK-240QにVK-480Qの設定ﾌｧｲﾙは反映できません。");
+  const ModelFamily& family = modelFamily(dialogModel);
+  if (family.ownFilesOnly && modelFamily(gBoxTable[kFileRow].model).dialect != family.dialect) {
+    showBox("ﾌｧｲﾙｴﾗｰ", path + "\r\nVK-240QにVK-480Qの設定ﾌｧｲﾙは反映できません。");
     return false;
   }
   return true;

@@ -3,11 +3,10 @@
 
 #include <fmt/format.h>
 
-#include <array>
 #include <optional>
 #include <tuple>
 
-#include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "link/mdlBoxSetting.h"
 #include "link/mdlUSBCommand.h"
 #include "link/vk240q_lib.h"
@@ -18,9 +17,6 @@ namespace vk {
 std::function<void()> gRestoreDefaults;
 
 namespace {
-
-constexpr std::array<const char*, 4> kBanners = {
-    "===== VK-240Q =====", "===== VK-240Qe =====", "===== VK-480Q =====", "===== VK-480Qe ====="};
 
 /// What a row of the scan ended with; empty goes on to the next.
 using ScanEnd = std::optional<int32_t>;
@@ -34,9 +30,9 @@ void logSerial(const LogBox& logBox, int32_t serial, const std::string& text) {
 }
 
 int32_t refuseUpgradeBox() {
-  desktop().messageBox("Connection error",
-                       "VK-480Q in upgrade mode is connected. Stop the upgrade mode and reconnect.",
-                       BoxButtons::kOk, BoxIcon::kNone);
+  showBox("Connection error",
+          "VK-480Q in upgrade mode is connected. Stop the upgrade mode and reconnect.",
+          BoxIcon::kNone);
   closeLibrary();
   if (gRestoreDefaults) gRestoreDefaults();
   return kStartNormal;
@@ -109,7 +105,7 @@ ScanEnd scanBox(int32_t device, int32_t devices, bool allowUpgrade, const LogBox
   // A status that does not come is sliced like any other: the result is not looked at.
   std::ignore = usbSTA(row.handle);
   const bool goodState = takeStatus(row);
-  addLine(logBox, kBanners[static_cast<std::size_t>(model)]);
+  addLine(logBox, std::string(modelRow(model).banner));
   logSerial(logBox, row.serial, " Connection has been confirmed.");
   readContents(row.serial, goodState, logBox);
   const int32_t card = usbFLN(row.serial);

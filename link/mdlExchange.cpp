@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "base/mdlGuard.h"
 #include "base/mdlMessages.h"
 #include "base/mdlText.h"
@@ -74,7 +74,7 @@ int32_t exchange(const Exchange& what) {
 }
 
 void usbErrorBox(int32_t number) {
-  desktop().messageBox("USB Error", errorText(number), BoxButtons::kOk, BoxIcon::kExclamation);
+  showBox("USB Error", errorText(number));
 }
 
 int32_t shownFailure(int32_t number) {

@@ -6,7 +6,7 @@
 #include "base/mdlGuard.h"
 #include "base/mdlText.h"
 #include "link/mdlExchange.h"
-#include "link/vk240q_lib.h"
+#include "link/mdlReadTimeout.h"
 #include "recorder/mdlBoxTable.h"
 
 namespace vk {
@@ -25,15 +25,6 @@ constexpr int32_t kParameterError = 20;
 constexpr int32_t kLargestSerial = 9999999;
 constexpr int32_t kSmallImageBytes = 131072;
 constexpr std::string_view kModelAnswer = "01";
-
-/// The instrument's self checks take longer than an ordinary command.
-class LongReadTimeout {
- public:
-  LongReadTimeout() { Vk240qSetReadTimeout(kTimeoutCheck); }
-  ~LongReadTimeout() { Vk240qSetReadTimeout(kTimeoutDefault); }
-  LongReadTimeout(const LongReadTimeout&) = delete;
-  LongReadTimeout& operator=(const LongReadTimeout&) = delete;
-};
 
 bool isAnything(std::string_view) {
   return true;
@@ -111,7 +102,8 @@ int32_t usbLST(int32_t serial, int selector) {
 }
 
 int32_t usbCHK(int32_t serial, int test) {
-  const LongReadTimeout patience;
+  // The self checks take longer than an ordinary command.
+  const ReadTimeout patience(kTimeoutCheck);
   return exchange({.handle = slotOf(serial),
                    .request = fmt::format("CHK{}", test),
                    .length = 4,

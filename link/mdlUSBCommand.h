@@ -14,16 +14,13 @@
 
 #include "base/clsDesktop.h"
 #include "link/mdlExchange.h"
+#include "link/mdlReadTimeout.h"
 
 namespace vk {
 
 inline constexpr int32_t kUsbNoCard = 50;
 inline constexpr int32_t kUsbNoReply = -9999;
 inline constexpr int kBlockBytes = 65536;
-
-inline constexpr int kTimeoutDefault = 7;
-inline constexpr int kTimeoutCheck = 60;
-inline constexpr int kTimeoutUpgrade = 40;
 
 extern int32_t gCommReconnectCnt;
 extern int32_t gCommSendErrCnt;
@@ -46,6 +43,8 @@ std::string staTime();
 std::string staDate();
 int16_t staSyncMode();
 int16_t staChFlag(int channel);
+/// The digit of a channel as the reply has it: "0" on, "1" off.
+std::string staBalance(int channel);
 /// The first two characters as a number when it is above 0 and below 99, else 0.
 int16_t staBoxState();
 

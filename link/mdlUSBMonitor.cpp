@@ -19,10 +19,7 @@ constexpr int32_t kRequestLength = 4;
 
 enum class Attempt { kGood, kNotSent, kNotReceived, kBadReply };
 
-/// A wait lets other commands run: a reconnect may give the box another device, and every command
-/// that returns lowers the flag. So each attempt begins anew.
 Attempt attempt(int32_t serial, const std::string& request) {
-  gUSBBusy = 1;
   const int32_t handle = slotOf(serial);
   if (sendText(handle, request, kRequestLength) != kUsbWriteOk) return Attempt::kNotSent;
   std::string reply;
@@ -42,6 +39,9 @@ int32_t& counterOf(Attempt failure) {
 int32_t usbMON(int32_t serial, int selector) {
   const FlagGuard busy(gUSBBusy);
   const std::string request = fmt::format("MON{}", selector);
+  // A wait lets events run, and with a new box table there is nobody left to answer.
+  const uint32_t age = boxTableAge();
+  const auto otherBoxes = [age] { return age != boxTableAge(); };
   bool transferRetried = false;
   bool replyRetried = false;
   while (!desktop().ending()) {
@@ -51,7 +51,8 @@ int32_t usbMON(int32_t serial, int selector) {
     bool& retried = badReply ? replyRetried : transferRetried;
     if (retried) return badReply ? kUsbUnreadable : kUsbNoReply;
     retried = true;
-    waitSeconds(badReply ? kAfterBadReply : kAfterTransferFailure);
+    waitSeconds(badReply ? kAfterBadReply : kAfterTransferFailure, otherBoxes);
+    if (otherBoxes()) return kUsbNoReply;
     countUp(counterOf(outcome));
     if (gLinkEvents.countersChanged) gLinkEvents.countersChanged();
   }

@@ -8,6 +8,7 @@
 #include "base/mdlText.h"
 #include "link/mdlExchange.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlModel.h"
 
 namespace vk {
 
@@ -37,7 +38,7 @@ int32_t usbProbeModel(int32_t handle) {
   // The oldest model does not know the command.
   if (contains(*reply, "ERR")) return 0;
   const int32_t model = readWhole(firstLine(*reply)).value_or(kProbeFailed);
-  return model >= 0 && model <= 3 ? model : kProbeFailed;
+  return isModel(model) ? model : kProbeFailed;
 }
 
 int32_t usbProbeUpgrade(int32_t handle) {

@@ -3,46 +3,51 @@
 // an error text or half a line.
 #include "base/mdlText.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlWireText.h"
 
 namespace vk {
 
 namespace {
 
-int32_t lastReplyNumber(std::size_t position, std::size_t length) {
-  return readWhole(mid(gLastReply, position, length)).value_or(0);
+int32_t lastReplyNumber(const WireField& field, std::size_t channel = 1) {
+  return readWhole(field.of(gLastReply, channel)).value_or(0);
 }
 
 }  // namespace
 
 int32_t staSerial() {
-  return lastReplyNumber(30, 7);
+  return lastReplyNumber(status_text::kSerial);
 }
 
 std::string staTime() {
-  return mid(gLastReply, 13, 8);
+  return status_text::kTime.of(gLastReply);
 }
 
 std::string staDate() {
-  return mid(gLastReply, 4, 8);
+  return status_text::kDate.of(gLastReply);
 }
 
 int16_t staSyncMode() {
-  return lastReplyNumber(22, 2) == 1 ? 1 : 0;
+  return lastReplyNumber(status_text::kSync) == 1 ? 1 : 0;
 }
 
 int16_t staChFlag(int channel) {
-  return lastReplyNumber(24 + static_cast<std::size_t>(channel), 1) == 1 ? 1 : 0;
+  return lastReplyNumber(status_text::kBalance, static_cast<std::size_t>(channel)) == 1 ? 1 : 0;
+}
+
+std::string staBalance(int channel) {
+  return status_text::kBalance.of(gLastReply, static_cast<std::size_t>(channel));
 }
 
 int16_t staBoxState() {
-  const int32_t state = lastReplyNumber(1, 2);
+  const int32_t state = lastReplyNumber(status_text::kState);
   return state > 0 && state < 99 ? static_cast<int16_t>(state) : int16_t{0};
 }
 
 std::string fileCountTextOf(int32_t result) {
   switch (result) {
     case kUsbOk:
-      return mid(gLastReply, 1, 3) + "/" + mid(gLastReply, 5, 3);
+      return card_text::kMeasured.of(gLastReply) + "/" + card_text::kReserved.of(gLastReply);
     case kUsbNoCard:
       return "Un-insert";
     case kUsbUnreadable:

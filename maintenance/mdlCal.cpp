@@ -16,7 +16,7 @@ constexpr int kCalOff = 0;
 }  // namespace
 
 bool pressCal(Calibration& calibration, int button) {
-  if (!hasAnalogOutput(familyOf(calibration.serial))) {
+  if (!modelRow(familyOf(calibration.serial)).analogOutput) {
     desktop().messageBox(std::string(kCalCaption), "Possible calibration output for VK-480Qe only.",
                          BoxButtons::kOk, BoxIcon::kExclamation);
     return false;

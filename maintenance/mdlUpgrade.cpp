@@ -59,11 +59,10 @@ void tell(const Upgrade& upgrade, const std::string& label, const std::string& p
 
 // Whether the instrument says that it has taken the program.
 bool renewed(const Upgrade& upgrade) {
-  (void)Vk240qSetReadTimeout(kTimeoutUpgrade);
+  const ReadTimeout patience(kTimeoutUpgrade);
   tell(upgrade, "Now it is being renewed.", "READ_A...");
   std::string reply(kReplyLength, ' ');
   const int32_t result = Vk240qReadA(kDevice, reply.data());
-  (void)Vk240qSetReadTimeout(kTimeoutDefault);
   return result >= 1 && contains(reply, "END");
 }
 

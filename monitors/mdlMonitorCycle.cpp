@@ -20,8 +20,6 @@ namespace {
 
 std::array<std::array<MonitorWindow*, kMostMonitors>, kMonitorKinds.size()> gWindows{};
 int64_t gLastFrame = -kFrameMs;
-/// Counts the resets, each of which comes with a new box table.
-uint32_t gTableAge = 0;
 
 /// Calls `work(kind, index)` for each monitor in the order of kinds, then indices; leaves at false.
 template <typename Work>
@@ -45,7 +43,7 @@ void forEachOpen(Work work) {
 }
 
 bool isLive(int32_t slot) {
-  return isBoxSlot(slot) && gBoxTable[static_cast<std::size_t>(slot)].handle >= 1;
+  return isBoxSlot(slot) && isConnected(gBoxTable[static_cast<std::size_t>(slot)]);
 }
 
 /// kFetchFailed or kFetchStale as soon as a box gives that, else 0.
@@ -108,12 +106,12 @@ int32_t fetchMonitorValue(int32_t serial) {
   const int32_t slot = slotIndexOf(serial);
   if (!isBoxSlot(slot)) return kFetchNoSlot;
   const auto at = static_cast<std::size_t>(slot);
-  if (gBoxTable[at].handle < 1) return kFetchLost;
+  if (!isConnected(gBoxTable[at])) return kFetchLost;
   if (gMoniFetched[at]) return kUsbOk;
-  const uint32_t age = gTableAge;
+  const uint32_t age = boxTableAge();
   const bool good = usbMON(serial) == kUsbOk;
   // The wait before a second try lets events run, and a reconnect may be among them.
-  if (age != gTableAge) return kFetchStale;
+  if (age != boxTableAge()) return kFetchStale;
   gMoniText[at] = good ? gLastReply : std::string(kLostReading);
   gMoniFetched[at] = true;
   if (good) return kUsbOk;
@@ -167,7 +165,6 @@ void refreshMonitorUnits() {
 }
 
 void resetMonitorCycle() {
-  ++gTableAge;
   gMonitorRun = true;
   gMoniText.fill({});
   gMoniFetched.fill(false);

@@ -11,10 +11,6 @@ namespace vk {
 
 namespace {
 
-constexpr float kTenth = 10.0F;
-constexpr float kHalfVoltFactor = 4.0F;
-constexpr int16_t kHalfVolt = 1;
-
 /// The record behind slot and channel; null when one of them does not exist.
 const MeasureSetting* boxOf(int32_t slot, int32_t channel) {
   if (!isBoxSlot(slot) || channel < 1 || channel > kChannels) return nullptr;
@@ -33,26 +29,16 @@ std::string_view readingOf(std::string_view reply, int32_t channel) {
   return first < reply.size() ? reply.substr(first, kReadingLength) : std::string_view{};
 }
 
-bool isTenthRange(int32_t slot, int32_t channel) {
+ChannelScale scaleOf(int32_t slot, int32_t channel) {
   const auto* box = boxOf(slot, channel);
-  if (!box) return false;
-  const int16_t range = box->range[static_cast<std::size_t>(channel)];
-  return (range >= 8 && range <= 11) || (range >= 20 && range <= 23);
-}
-
-bool isHalfVolt(int32_t slot, int32_t channel) {
-  const auto* box = boxOf(slot, channel);
-  return box && box->carrier[static_cast<std::size_t>(channel)] == kHalfVolt;
+  return box ? channelScale(*box, static_cast<std::size_t>(channel)) : ChannelScale{};
 }
 
 std::optional<float> toDisplayValue(std::string_view text, int32_t slot, int32_t channel) {
   const auto* box = boxOf(slot, channel);
   const auto number = readSingle(text);
   if (!box || !number) return std::nullopt;
-  float value = *number * box->coeff[static_cast<std::size_t>(channel)];
-  if (isTenthRange(slot, channel)) value /= kTenth;
-  if (isHalfVolt(slot, channel)) value *= kHalfVoltFactor;
-  return value;
+  return channelScale(*box, static_cast<std::size_t>(channel)).value(*number);
 }
 
 Extremes::Change Extremes::hold(float value) {

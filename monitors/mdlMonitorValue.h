@@ -10,9 +10,11 @@
 #include <string>
 #include <string_view>
 
+#include "recorder/mdlChannelScale.h"
+#include "recorder/mdlWireText.h"
+
 namespace vk {
 
-inline constexpr std::size_t kReadingLength = 6;
 /// A channel that its box does not use.
 inline constexpr std::string_view kUnusedReading = "------";
 /// A channel without a live box, and the whole reply of a box that failed.
@@ -27,9 +29,8 @@ std::string_view readingOf(std::string_view reply, int32_t channel);
 /// a decimal, four times that with an excitation of 0.5 V, each step in single precision. Empty
 /// when the text is no number, or slot or channel do not exist.
 std::optional<float> toDisplayValue(std::string_view text, int32_t slot, int32_t channel);
-/// The ranges with a decimal in their name, and the excitation of 0.5 V.
-bool isTenthRange(int32_t slot, int32_t channel);
-bool isHalfVolt(int32_t slot, int32_t channel);
+/// Of no effect when slot or channel do not exist.
+ChannelScale scaleOf(int32_t slot, int32_t channel);
 
 /// The largest and smallest value since opening or clearing. The first sample sets only the
 /// maximum.

@@ -149,10 +149,10 @@ void WaveMonitor::collectOffset(std::string_view reading) {
   offsetSum_ += readWhole(reading).value_or(0);
   if (++offsetCount_ < kOffsetReadings) return;
   int32_t shift = toShift(scaleY_ * offsetSum_ / kOffsetReadings);
-  if (isTenthRange(slot_, record_.WAV_CH)) shift = toShift(shift / 10.0);
-  if (isHalfVolt(slot_, record_.WAV_CH)) shift = toShift(shift * 4.0);
-  const auto& coeff = gBoxTable[slot_].coeff;
-  cancelOffsetPx_ = toShift(shift * coeff[record_.WAV_CH]);
+  const ChannelScale scale = scaleOf(slot_, record_.WAV_CH);
+  shift = toShift(shift / double{scale.divisor});
+  shift = toShift(shift * double{scale.factor});
+  cancelOffsetPx_ = toShift(shift * scale.coeff);
   setAxis();
   offsetMeasuring_ = false;
 }

@@ -10,6 +10,8 @@ OneBased<BoxShadow, kFileRow> gBoxShadow;
 
 namespace {
 
+uint32_t gAge = 0;
+
 /// The first of rows 1 to 8 that has the serial, 0 without one.
 std::size_t firstRowOf(int32_t serial) {
   for (std::size_t row = 1; row <= kBoxes; ++row) {
@@ -27,8 +29,13 @@ bool differs(const MeasureSetting& box, const BoxShadow& shadow) {
 }  // namespace
 
 void resetBoxTable() {
+  ++gAge;
   gBoxTable.fill(MeasureSetting{});
   gBoxShadow.fill(BoxShadow{});
+}
+
+uint32_t boxTableAge() {
+  return gAge;
 }
 
 std::string serialText(int32_t serial) {
@@ -60,7 +67,7 @@ std::array<bool, kBoxes + 1> takeChangedRows() {
     const MeasureSetting& box = gBoxTable[row];
     changed[row] = differs(box, gBoxShadow[row]);
     if (!changed[row]) continue;
-    gBoxShadow[row] = {box.handle, box.fileCountText, box.syncMode, box.boxState, box.model};
+    gBoxShadow[row] = {box.identity(), box.status()};
   }
   return changed;
 }

@@ -16,22 +16,19 @@ namespace vk {
 extern OneBased<MeasureSetting, kFileRow> gBoxTable;
 
 /// What a box panel last showed, to redraw it on change only.
-struct BoxShadow {
-  int32_t handle = kNoHandle;
-  std::string fileCountText = "000/000";
-  int16_t syncMode = 1;
-  int16_t boxState = 1;
-  int16_t model = kVk480Q;
-};
+struct BoxShadow : BoxIdentity, BoxStatus {};
 extern OneBased<BoxShadow, kFileRow> gBoxShadow;
 
-/// Sets both tables to their start values.
+/// Sets both tables to their start values, which begins a new age of the box table.
 void resetBoxTable();
+/// Grows with every reset. Who has let events run tells by it that the boxes are other ones now.
+uint32_t boxTableAge();
 
 /// The serial as it is shown and sent: at least seven digits.
 std::string serialText(int32_t serial);
 
-inline bool isConnected(const MeasureSetting& row) {
+/// The row stands for a box that answers.
+inline bool isConnected(const BoxIdentity& row) {
   return row.handle >= 0;
 }
 

@@ -77,7 +77,6 @@ inline constexpr auto rangeCodeLow =
     std::to_array<std::string_view>({"", "", "", "", "05", "10", "20"});
 /// What the dialog offers; entries of rangeName or rangeName05.
 inline constexpr auto rangeOffered = std::to_array<int32_t>({2, 3, 4, 5, 6, 10, 11});
-inline constexpr auto rangeOfferedLow = std::to_array<int32_t>({4, 5, 6});
 /// What a record may hold: the offered ranges and their voltage twins.
 inline constexpr auto rangeAccepted =
     std::to_array<int32_t>({2, 3, 4, 5, 6, 10, 11, 14, 15, 16, 17, 18, 22, 23});

@@ -40,8 +40,7 @@ std::vector<int32_t> indicesFromTo(int32_t first, int32_t last) {
 }
 
 int32_t fastestSampling(int32_t mode, int32_t dataSize, int32_t family) {
-  return isLowFamily(family) ? rule(minSamplingLow, mode, dataSize)
-                             : rule(minSampling, mode, dataSize);
+  return rule(modelFamily(family).fastestSampling, mode, dataSize);
 }
 
 void refillDataSize(ConditionChoice& choice) {
@@ -83,7 +82,7 @@ bool coeffAllowed(float coeff) {
   return coeffNotZero(coeff) && std::fabs(coeff) <= kCoeffMost;
 }
 
-int32_t checkSingleFields(const MeasureSetting& record) {
+int32_t checkSingleFields(const MeasureConditions& record) {
   const auto& range = record.range;
   const auto& level = record.triggerLevel;
   const auto& coeff = record.coeff;
@@ -214,7 +213,7 @@ std::string timeText(float seconds, int32_t sampling) {
   return text + formatNumber(static_cast<float>(rest), textAt(samplingFormat, sampling)) + "s";
 }
 
-int32_t checkSetting(MeasureSetting& record) {
+int32_t checkSetting(MeasureConditions& record) {
   const int32_t error = checkSingleFields(record);
   if (error != kSettingOk) return error;
   const int32_t mode = record.channelMode;

@@ -16,8 +16,6 @@
 
 namespace vk {
 
-inline constexpr int32_t kNoModel = -1;
-
 // --- lists and corrections ----------------------------------------------------------------------
 
 /// The four choices that depend on each other.
@@ -82,7 +80,7 @@ enum SettingError : int32_t {
 /// A SettingError, the first that applies. A pre-area of "100(99) %" on a data size that cannot
 /// hold it becomes "Max" in the record and is no error. A sampling that the channel mode cannot
 /// use is not found here; the lists keep it out.
-[[nodiscard]] int32_t checkSetting(MeasureSetting& record);
+[[nodiscard]] int32_t checkSetting(MeasureConditions& record);
 
 inline constexpr std::string_view kSettingErrorTitle = "Error";
 /// Empty for kCarrierError and every number that is no error.

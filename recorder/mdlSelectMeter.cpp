@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "recorder/mdlSelectMeter.h"
 
-#include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "base/mdlText.h"
 #include "recorder/mdlBoxTable.h"
 #include "recorder/mdlCodeTables.h"
@@ -63,9 +63,7 @@ bool acceptSelection(std::string_view meterText, int32_t channelIndex) {
   const int32_t serial = serialOfText(meterText);
   const int32_t channel = gSelMode == kSelectBoxAndChannel ? channelIndex : 0;
   if (channelMissing(serial, channel)) {
-    desktop().messageBox(
-        "Error", "This channel can not be used.Change the setting of the number of channels.",
-        BoxButtons::kOk, BoxIcon::kExclamation);
+    showBox("Error", "This channel can not be used.Change the setting of the number of channels.");
     return false;
   }
   gSelSerial = serial;

@@ -13,29 +13,11 @@
 #include "recorder/mdlBoxTable.h"
 #include "recorder/mdlCodeTables.h"
 #include "recorder/mdlConditionRules.h"
+#include "recorder/mdlWireText.h"
 
 namespace vk {
 
 namespace {
-
-// Positions of the settings string, counted from 1. Fields of a channel follow each other.
-constexpr std::size_t kModeAt = 1;
-constexpr std::size_t kRangeAt = 2;
-constexpr std::size_t kFilterAt = 10;
-constexpr std::size_t kTriggerAt = 18;
-constexpr std::size_t kSlopeAt = 19;
-constexpr std::size_t kLevelAt = 23;
-constexpr std::size_t kSamplingAt = 39;
-constexpr std::size_t kPreAreaAt = 43;
-constexpr std::size_t kDataSizeAt = 46;
-constexpr std::size_t kCarrierAt = 50;
-
-constexpr std::size_t kLevelWidth = 4;
-
-std::string channelField(std::string_view text, std::size_t start, std::size_t width,
-                         std::size_t channel) {
-  return mid(text, start + width * (channel - 1), width);
-}
 
 int16_t toIndex(int32_t value) {
   if (value < std::numeric_limits<int16_t>::min() || value > std::numeric_limits<int16_t>::max()) {
@@ -51,7 +33,7 @@ MeasureSetting& rowOf(int32_t serial) {
   return gBoxTable[static_cast<std::size_t>(row)];
 }
 
-void decodeLevel(MeasureSetting& record, std::size_t channel, std::string_view field) {
+void decodeLevel(SettingConditions& record, std::size_t channel, std::string_view field) {
   switch (field.empty() ? '\0' : field.front()) {
     case 'N':
       record.triggerSlope[channel] = kSlopeOff;
@@ -70,40 +52,34 @@ void decodeLevel(MeasureSetting& record, std::size_t channel, std::string_view f
   }
 }
 
-void decodeChannels(MeasureSetting& record, bool low, std::string_view text) {
+void decodeChannels(SettingConditions& record, const ModelFamily& family, std::string_view text) {
   for (std::size_t channel = 1; channel <= kChannels; ++channel) {
-    const std::string range = channelField(text, kRangeAt, 2, channel);
-    const std::string filter = channelField(text, kFilterAt, 2, channel);
-    const std::string slope = channelField(text, kSlopeAt, 1, channel);
-    if (low) {
-      lookup(rangeCodeLow, range, record.range[channel]);
-      lookup(filterCodeLow, filter, record.filter[channel]);
-    } else {
-      lookup(rangeCode, range, record.range[channel]);
-      lookup(filterCode, filter, record.filter[channel]);
-      record.carrier[channel] = toIndex(toWhole(channelField(text, kCarrierAt, 1, channel)));
+    lookup(family.rangeCodes, setting_text::kRange.of(text, channel), record.range[channel]);
+    lookup(family.filterCodes, setting_text::kFilter.of(text, channel), record.filter[channel]);
+    if (family.excitation) {
+      record.carrier[channel] = toIndex(toWhole(setting_text::kCarrier.of(text, channel)));
     }
-    lookup(trgSlopeCode, slope, record.triggerSlope[channel]);
-    decodeLevel(record, channel, channelField(text, kLevelAt, kLevelWidth, channel));
+    lookup(trgSlopeCode, setting_text::kSlope.of(text, channel), record.triggerSlope[channel]);
+    decodeLevel(record, channel, setting_text::kLevel.of(text, channel));
   }
 }
 
-void decodePreArea(MeasureSetting& record, std::string_view field) {
+void decodePreArea(SettingConditions& record, std::string_view field) {
   record.preArea = toIndex(roundWhole(toWhole(field) / 10.0));
   if (record.preArea == kPreAreaFull) {
     record.preArea = toIndex(wholePreArea(record.channelMode, record.dataSize));
   }
 }
 
-MeasureSetting decodeConditions(bool low, std::string_view text) {
-  MeasureSetting record = zeroedSetting();
+MeasureConditions decodeConditions(const ModelFamily& family, std::string_view text) {
+  MeasureConditions record;
   record.coeff.fill(1.0F);
-  lookup(chModeCode, mid(text, kModeAt, 1), record.channelMode);
-  lookup(trgModeCode, mid(text, kTriggerAt, 1), record.triggerMode);
-  decodeChannels(record, low, text);
-  lookup(samplingCode, mid(text, kSamplingAt, 4), record.sampling);
-  lookup(dataSizeCode, mid(text, kDataSizeAt, 4), record.dataSize);
-  decodePreArea(record, mid(text, kPreAreaAt, 3));
+  lookup(chModeCode, setting_text::kMode.of(text), record.channelMode);
+  lookup(trgModeCode, setting_text::kTrigger.of(text), record.triggerMode);
+  decodeChannels(record, family, text);
+  lookup(samplingCode, setting_text::kSampling.of(text), record.sampling);
+  lookup(dataSizeCode, setting_text::kDataSize.of(text), record.dataSize);
+  decodePreArea(record, setting_text::kPreArea.of(text));
   return record;
 }
 
@@ -130,16 +106,9 @@ std::string wholeLevel(int32_t level) {
   return formatNumber(level, level >= 0 ? "+000" : "000");
 }
 
-std::string_view rangeCodeFor(bool low, int32_t range) {
-  if (!low) return textAt(rangeCode, range);
-  const std::string_view code = textAt(rangeCodeLow, range);
-  return code.empty() ? rangeCodeLow[4] : code;
-}
-
-std::string_view filterCodeFor(bool low, int32_t filter) {
-  if (!low) return textAt(filterCode, filter);
-  const std::string_view code = textAt(filterCodeLow, filter);
-  return code.empty() ? filterCodeLow[4] : code;
+std::string_view codeAt(Texts codes, int32_t index, std::string_view otherwise) {
+  const std::string_view code = textAt(codes, index);
+  return code.empty() ? otherwise : code;
 }
 
 }  // namespace
@@ -156,21 +125,11 @@ int32_t wholePreArea(int32_t mode, int32_t dataSize) {
 
 int32_t decodeSettingString(int32_t serial, std::string_view text) {
   return trapped([&] {
-    const MeasureSetting decoded = decodeConditions(isLowFamily(familyOf(serial)), text);
+    const MeasureConditions decoded = decodeConditions(modelFamily(familyOf(serial)), text);
     // The check may rename the pre-area; the name that came with the text is the one kept.
-    MeasureSetting checked = decoded;
+    MeasureConditions checked = decoded;
     if (checkSetting(checked) != kSettingOk) return 1;
-    MeasureSetting& row = rowOf(serial);
-    row.channelMode = decoded.channelMode;
-    row.triggerMode = decoded.triggerMode;
-    row.sampling = decoded.sampling;
-    row.preArea = decoded.preArea;
-    row.dataSize = decoded.dataSize;
-    row.range = decoded.range;
-    row.filter = decoded.filter;
-    row.triggerSlope = decoded.triggerSlope;
-    row.triggerLevel = decoded.triggerLevel;
-    row.carrier = decoded.carrier;
+    rowOf(serial).settingConditions() = decoded;
     return 0;
   });
 }
@@ -197,7 +156,7 @@ std::optional<std::string> buildLevelField(int32_t family, int32_t slope,
   const auto whole = readWhole(levelText);
   const auto level = readDouble(levelText);
   if (!whole || !level) return std::nullopt;
-  if (isLowFamily(family) || mid(levelText, 2, 3) == "100") return wholeLevel(*whole);
+  if (!modelFamily(family).tenthLevels || mid(levelText, 2, 3) == "100") return wholeLevel(*whole);
   const double tenths = *level * 10.0;
   // The sign is that of the rounded level, so a level just below zero keeps its minus behind "P".
   if (*whole < 0) return "M" + formatNumber(std::fabs(tenths), "000");
@@ -206,10 +165,14 @@ std::optional<std::string> buildLevelField(int32_t family, int32_t slope,
 
 std::optional<std::string> buildSettingString(const MeasureSetting& record,
                                               const PerChannel<std::string>& levelTexts) {
-  const bool low = isLowFamily(record.model);
+  const ModelFamily& family = modelFamily(record.model);
   std::string text(textAt(chModeCode, record.channelMode));
-  for (const int16_t range : record.range) text += rangeCodeFor(low, range);
-  for (const int16_t filter : record.filter) text += filterCodeFor(low, filter);
+  for (const int16_t range : record.range) {
+    text += codeAt(family.rangeCodes, range, family.rangeCodeElse);
+  }
+  for (const int16_t filter : record.filter) {
+    text += codeAt(family.filterCodes, filter, family.filterCodeElse);
+  }
   text += textAt(trgModeCode, record.triggerMode);
   for (const int16_t slope : record.triggerSlope) text += textAt(trgSlopeCode, slope);
   for (std::size_t channel = 1; channel <= kChannels; ++channel) {
@@ -221,7 +184,7 @@ std::optional<std::string> buildSettingString(const MeasureSetting& record,
   text += textAt(samplingCode, record.sampling);
   text += textAt(preAreaCode, record.preArea);
   text += textAt(dataSizeCode, record.dataSize);
-  if (low) return text;
+  if (!family.excitation) return text;
   for (const int16_t carrier : record.carrier) text += textAt(carrierCode, carrier);
   return text;
 }

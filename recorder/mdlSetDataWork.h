@@ -13,11 +13,7 @@
 
 namespace vk {
 
-/// The settings strings, unit and coefficient lists of an instrument whose contents are not normal.
-inline constexpr std::string_view kDefaultSetLow =
-    "405050505PSPSPSPSCUUUU+010N000N000N000200U000128K";
-inline constexpr std::string_view kDefaultSetHigh =
-    "40505050507070707CUUUU+010N000N000N000200U000128K2222";
+/// The unit and coefficient lists of an instrument whose contents are not normal.
 inline constexpr std::string_view kDefaultUnits = "ue,ue,ue,ue";
 inline constexpr std::string_view kDefaultCoeffs = "1.000000,1.000000,1.000000,1.000000";
 

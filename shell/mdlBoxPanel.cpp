@@ -170,7 +170,7 @@ std::string_view shortcutText(int index) {
 
 bool calVisible(const OneBased<MeasureSetting, kFileRow>& table) {
   for (std::size_t row = 1; row <= kBoxes; ++row) {
-    if (hasAnalogOutput(table[row].model)) return true;
+    if (modelRow(table[row].model).analogOutput) return true;
   }
   return false;
 }

@@ -39,7 +39,7 @@ bool activateStart(const LogBox& log, std::vector<StartRow>& rows) {
   if (gStartMode == kStartTooMany) gStartOK = 0;
   if (gStartMode != kStartNormal) return false;
   for (int row = 1; row <= kBoxes; ++row) {
-    if (gBoxTable[row].handle <= 0) continue;
+    if (!isConnected(gBoxTable[row])) continue;
     rows.push_back({serialText(gBoxTable[row].serial), "", false});
   }
   return true;

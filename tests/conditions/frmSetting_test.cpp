@@ -25,6 +25,7 @@ class frmSettingTest : public BoxWindowTest {
   frmSettingTest() { connect(kThreeBoxes); }
 
   void open(int32_t serial) {
+    form.reset();
     form = std::make_unique<vk::frmSetting>(serial);
     form->show();
     desk.doEvents();
@@ -216,6 +217,15 @@ TEST_F(frmSettingTest, AFailureSkipsTheRestAndStays) {
   click("cmdSet");
   EXPECT_TRUE(desk.takeLog().starts_with("box[USB Error]["));
   EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(frmSettingTest, BusyWhileItIsThereAlsoWithoutABox) {
+  for (const int32_t serial : {vk::kNoSerial, kHigh}) {
+    open(serial);
+    EXPECT_EQ(vk::gUSBBusy, 1);
+    form.reset();
+    EXPECT_EQ(vk::gUSBBusy, 0);
+  }
 }
 
 TEST_F(frmSettingTest, NothingElseRunsWhileItSends) {

@@ -169,7 +169,7 @@ TEST(DialogConditions, EnablesWhatTakesPart) {
 /// has no excitation; balance travels by itself.
 MeasureSetting throughInstrument(const DialogControls& controls, const MeasureSetting& row) {
   MeasureSetting record = readControls(controls);
-  const bool low = isLowFamily(controls.model);
+  const bool low = !modelFamily(controls.model).excitation;
   for (std::size_t i = 1; i <= kChannels; ++i) {
     float& level = record.triggerLevel[i];
     if (record.triggerSlope[i] == kSlopeOff) {

@@ -78,5 +78,22 @@ TEST_F(ExchangeTest, BusyFromTheFirstWriteUntilAfterTheBox) {
             "busy box[USB Error][CF card is not inserted.[ERROR-50]][ok][exclamation]\n");
 }
 
+TEST_F(ExchangeTest, OneInsideAnotherLeavesTheFlagUp) {
+  library().blocks.assign(32, {std::string(512, '\0'), 512});
+  library().reply("END");
+  desk.yields = {[] { EXPECT_EQ(usbRUN(1000001), 0); }, [] { EXPECT_EQ(gUSBBusy, 1); }};
+  EXPECT_EQ(usbRTD(1000001), 0);
+  EXPECT_EQ(desk.yieldCount, 32);
+  EXPECT_EQ(gUSBBusy, 0);
+}
+
+TEST_F(ExchangeTest, ATimeoutGivesBackTheOneBefore) {
+  {
+    const ReadTimeout upgrade(kTimeoutUpgrade);
+    const ReadTimeout check(kTimeoutCheck);
+  }
+  EXPECT_EQ(library().takeTranscript(), "timeout(40)\ntimeout(60)\ntimeout(40)\ntimeout(7)\n");
+}
+
 }  // namespace
 }  // namespace vk

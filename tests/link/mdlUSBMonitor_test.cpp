@@ -69,13 +69,32 @@ TEST_F(MonitorCommandTest, ACommandAndAReconnectInsideTheWait) {
                    place(1, 2, 1000002);
                    place(2, 5, 1000001);
                  },
-                 // The second wait: the flag that the command lowered is up again.
+                 // The second wait: the flag is still up.
                  [&] { EXPECT_FALSE(pollStatus()); }};
   EXPECT_EQ(usbMON(1000001), 0);
   EXPECT_EQ(library().takeTranscript(),
             "write(1,MON0)\nread(1)\nwrite(1,RUN)\nread(1)\n"
             "write(5,MON0)\nread(5)\nwrite(5,MON0)\nread(5)\n");
   EXPECT_EQ(gUSBBusy, 0);
+}
+
+TEST_F(MonitorCommandTest, ANewBoxTableEndsTheWait) {
+  for (const char* attempts : {"B+", "R+"}) {
+    SetUp();
+    script(attempts);
+    place(1, 1, 1000001);
+    gLinkEvents.countersChanged = [] { ADD_FAILURE() << "the old failure counts"; };
+    desk.clock = 0;
+    desk.yields = {[&] {
+      desk.clock = 200;  // long before the end of the wait
+      resetBoxTable();
+      place(1, 1, 1000001);
+    }};
+    EXPECT_EQ(usbMON(1000001), kUsbNoReply);
+    EXPECT_EQ(library().takeTranscript(), "write(1,MON0)\nread(1)\n");
+    EXPECT_EQ(counters(), "t200 0,0,0");
+    EXPECT_EQ(gUSBBusy, 0);
+  }
 }
 
 TEST_F(MonitorCommandTest, GivesUpWhenTheProgramEndsInTheWait) {

@@ -183,11 +183,16 @@ TEST_F(MonitorCycle, AReconnectWithinARetryEndsThePassWithoutAReading) {
       if (++asked == 2 || !answers) return ScriptedLibrary::Reply{"", 0};
       return reply(handle, request);
     };
-    desk.yields.push_back([] {
+    desk.clock = 0;
+    desk.yields.push_back([this] {
+      desk.clock = 200;  // long before the end of the wait
+      vk::resetBoxTable();
+      place(1, 1, 100);
       place(2, 2, 300);
       vk::resetMonitorCycle();
     });
     EXPECT_TRUE(vk::monitorCycle());
+    EXPECT_EQ(desk.clock, 200);
     EXPECT_EQ(takeLog(), "") << answers;
     EXPECT_EQ(notices, 0);
     EXPECT_TRUE(vk::gBoxTable[1].handle == 1 && vk::gBoxTable[2].handle == 2);

@@ -126,7 +126,7 @@ TEST(CodeTables, Spellings) {
 TEST(CodeTables, NumbersOfEachCondition) {
   EXPECT_THAT(chModeCount, ElementsAre(1, 2, 4));
   EXPECT_THAT(rangeOffered, ElementsAre(2, 3, 4, 5, 6, 10, 11));
-  EXPECT_THAT(rangeOfferedLow, ElementsAre(4, 5, 6));
+  EXPECT_THAT(modelFamily(kVk240Q).rangesOffered, ElementsAre(4, 5, 6));
   EXPECT_THAT(samplingSec,
               ElementsAre(0.000005F, 0.00001F, 0.00002F, 0.00005F, 0.0001F, 0.0002F, 0.0005F,
                           0.001F, 0.002F, 0.005F, 0.01F, 0.02F, 0.05F, 0.1F, 0.2F, 0.5F, 1.0F));

@@ -70,7 +70,7 @@ class SetDataWork : public ::testing::Test {
   /// Asks with positions and what is written there over the default string; the answer is the
   /// fields that then differ from those of the default string, "refused" when the row stays.
   static std::string decoded(int16_t model, const std::string& question) {
-    std::string text(isLowFamily(model) ? kDefaultSetLow : kDefaultSetHigh);
+    std::string text(!modelFamily(model).excitation ? kDefaultSetLow : kDefaultSetHigh);
     place(model);
     EXPECT_EQ(decodeSettingString(kSerial, text), 0);
     std::istringstream usual(conditionsOf(row()));
@@ -104,12 +104,12 @@ TEST_F(SetDataWork, DecodesTheStringsOfBothFamilies) {
     place(model);
     auto expected = gBoxTable;  // nothing else of the row moves, nor any other row
     MeasureSetting& box = expected[2];
-    box.filter.fill(isLowFamily(model) ? 4 : 6);
-    box.carrier.fill(isLowFamily(model) ? 0 : 2);
+    box.filter.fill(!modelFamily(model).excitation ? 4 : 6);
+    box.carrier.fill(!modelFamily(model).excitation ? 0 : 2);
     box.sampling = 5;
     box.triggerLevel.fill(0.0F);
     box.triggerLevel[1] = 10.0F;
-    const std::string text(isLowFamily(model) ? kDefaultSetLow : kDefaultSetHigh);
+    const std::string text(!modelFamily(model).excitation ? kDefaultSetLow : kDefaultSetHigh);
     EXPECT_EQ(decodeSettingString(kSerial, text + "\r\n                         "), 0);
     EXPECT_EQ(conditionsOf(row()), conditionsOf(box));
     EXPECT_EQ(gBoxTable, expected);
@@ -216,7 +216,7 @@ TEST_F(SetDataWork, WritesTheDefaultsOfTheFamily) {
     EXPECT_EQ(writeDefaultSetting(kSerial), 0);
     EXPECT_EQ(library().takeTranscript(),
               "write(2,SET" +
-                  std::string(isLowFamily(model)
+                  std::string(!modelFamily(model).excitation
                                   ? "405050505PSPSPSPSCUUUU+010N000N000N000200U000128K"
                                   : "40505050507070707CUUUU+010N000N000N000200U000128K2222") +
                   ")\nread(2)\nwrite(2,UNTue,ue,ue,ue)\nread(2)\n"

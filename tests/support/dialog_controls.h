@@ -78,7 +78,7 @@ inline vk::DialogControls randomControls(std::mt19937& random, int32_t model) {
 /// its line is trimmed away and becomes the first; both names of the whole pre-area are one word.
 inline vk::MeasureSetting throughFile(const vk::DialogControls& controls) {
   vk::MeasureSetting record = vk::readControls(controls);
-  const bool low = vk::isLowFamily(controls.model);
+  const bool low = !vk::modelFamily(controls.model).excitation;
   record.serial = 0;
   record.model = low ? vk::kVk240Q : vk::kVk480Q;
   if (low) record.carrier.fill(0);
