@@ -310,9 +310,9 @@ bool frmSetting::applyConditions() {
   frmStatusBar status(tr("Set"), this);
   status.setLines(tr("Now Setting VK-480Q."));
   status.open();
-  if (!sendConditions(send, {.progress = [&status](double f) { status.setProgress(f); }})) {
-    return false;
-  }
+  JobView view;
+  view.progress = [&status](double fraction) { status.setProgress(fraction); };
+  if (!sendConditions(send, view)) return false;
   storeRecord(slotIndexOf(dialogRecord_.serial), dialogRecord_);
   return true;
 }

@@ -20,8 +20,9 @@ inline constexpr int32_t kUsbWriteOk = 64;
 inline constexpr int kReplyLength = 80;
 inline constexpr int32_t kWholeText = -1;
 
-/// 1 while a command function is between its first write and its return. Only the status poll and
-/// the clock tick of the start form look at it.
+/// 1 while a command function is between its first write and its return, and while the dialog of
+/// the conditions is there. Raised by a FlagGuard, so that an inner end leaves it up. Only the
+/// status poll and the clock tick of the start form look at it.
 extern int16_t gUSBBusy;
 /// The whole reply of the last command that returns data.
 extern std::string gLastReply;

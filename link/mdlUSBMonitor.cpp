@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // MON, the only command that retries. Transfer failures and bad replies have an allowance of one
-// retry each; the failure that exceeds its allowance is not counted.
+// retry each; the failure that exceeds its allowance is not counted. A wait ends at once when the
+// box table is built anew: then nothing is counted and nothing more is sent.
 #include <fmt/format.h>
 
 #include "base/mdlGeneral.h"

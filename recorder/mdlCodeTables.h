@@ -3,7 +3,8 @@
 // the text that the dialogs show, the word that the setting file stores. All spellings of one
 // condition share one index, and the index is what a record keeps. Display texts keep their
 // leading blanks, because a selection is found by comparing texts. The rule tables of
-// conditions/mdlConditionRules.h stand here too. Everything is constant.
+// recorder/mdlConditionRules.h stand here too; which family uses which is told in
+// recorder/mdlModel.h. Everything is constant.
 #pragma once
 
 #include <array>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "conditions/mdlSendConditions.h"
 
+#include "base/mdlText.h"
 #include "tests/support/link_fixture.h"
 #include "tests/support/text_table.h"
 
@@ -38,9 +39,9 @@ TEST_F(SendConditions, InOrderUpToTheFirstFailureOrStop) {
           return vktest::ScriptedLibrary::Reply{good-- > 0 ? "END" : "ERR,20", 80};
         };
         int yields = 0;
-        const JobView view{
-            .progress = [&](double f) { shown += " " + std::to_string(int(f * 100)); },
-            .stopped = [&] { return stops && ++yields == std::stoi(question.substr(1)); }};
+        JobView view;
+        view.progress = [&](double done) { shown += " " + textOf(roundWhole(done * 100)); };
+        view.stopped = [&] { return stops && ++yields == std::stoi(question.substr(1)); };
         const bool done = sendConditions(send, view);
         return sent + (done ? "ok" : "failed") + shown;
       });

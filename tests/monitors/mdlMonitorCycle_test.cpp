@@ -84,7 +84,7 @@ TEST_F(MonitorCycle, AsksEachBoxOnceAndHandsOutEachChannel) {
 }
 
 TEST_F(MonitorCycle, FetchResults) {
-  place(2, 0, 200);
+  place(2, vk::kNoHandle, 200);  // as the status poll leaves a lost box
   EXPECT_EQ(vk::fetchMonitorValue(vk::kNoSerial), -1);
   EXPECT_EQ(vk::fetchMonitorValue(555), -2);
   EXPECT_EQ(vk::fetchMonitorValue(200), -1001);

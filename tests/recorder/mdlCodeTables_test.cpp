@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "recorder/mdlModel.h"
+
 namespace vk {
 namespace {
 
