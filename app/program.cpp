@@ -9,14 +9,12 @@
 #include "shell/frmStart.h"
 #include "shell/mdiMain.h"
 #include "shell/mdlMain.h"
-#include "storage/mdlCsvConversion.h"
 
 namespace vk {
 
 int runProgram() {
   clsQtDesktop onQt;
   setDesktop(&onQt);
-  gConvertToCsv = convertToCsv;
   std::unique_ptr<mdiMain> window;
   MainStages stages;
   stages.showStart = [] { frmStart().exec(); };

@@ -13,6 +13,7 @@
 #include <new>
 #include <stdexcept>
 #include <system_error>
+#include <tuple>
 
 #include "base/mdlText.h"
 
@@ -214,6 +215,7 @@ int32_t FileWriter::open(const fs::path& target) {
 
 int32_t FileWriter::write(const void* bytes, std::size_t count) {
   if (descriptor_ < 0 && error_ == kFileOk) error_ = kFileOther;
+  prepared_ = false;
   const char* next = static_cast<const char*>(bytes);
   while (error_ == kFileOk && count > 0) {
     const auto done = ::write(descriptor_, next, count);
@@ -236,9 +238,16 @@ int32_t FileWriter::write(const void* bytes, std::size_t count) {
   return error_;
 }
 
+int32_t FileWriter::prepare() {
+  if (descriptor_ < 0) return error_ == kFileOk ? kFileOther : error_;
+  if (error_ == kFileOk && !prepared_) error_ = syncDescriptor(descriptor_);
+  prepared_ = true;
+  return error_;
+}
+
 int32_t FileWriter::commit() {
   if (descriptor_ < 0) return error_ == kFileOk ? kFileOther : error_;
-  if (error_ == kFileOk) error_ = syncDescriptor(descriptor_);
+  std::ignore = prepare();  // the naming below tells its failure
   if (const auto error = giveName()) return error;
   syncFolder(folderOf(target_));
   return kFileOk;
@@ -273,6 +282,7 @@ void FileWriter::discard() {
   }
   written_ = 0;
   flushed_ = 0;
+  prepared_ = false;
   error_ = kFileOk;
 }
 

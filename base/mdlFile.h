@@ -38,7 +38,11 @@ class FileWriter {
   /// The bytes written, all or an error; after an error every further call fails the same way.
   [[nodiscard]] int32_t write(const void* bytes, std::size_t count);
   [[nodiscard]] int32_t write(std::string_view text) { return write(text.data(), text.size()); }
-  /// Flushes to disk and gives the file its name. Also used to keep a partial file on purpose.
+  /// Flushes to disk: all that can still fail before the file gets its name. Two files that belong
+  /// together are both prepared and then named one right behind the other.
+  [[nodiscard]] int32_t prepare();
+  /// Gives the file its name, prepared if it is not yet. Also used to keep a partial file on
+  /// purpose.
   [[nodiscard]] int32_t commit();
   /// The same without waiting for the disk: the file stands whole under its name for whoever
   /// looks, and the disk has begun to write it. Until flushFolder() a crash of the system may lose
@@ -53,6 +57,7 @@ class FileWriter {
 
   int descriptor_ = -1;
   int32_t error_ = kFileOk;
+  bool prepared_ = false;
   uint64_t written_ = 0;
   uint64_t flushed_ = 0;
   std::filesystem::path target_;

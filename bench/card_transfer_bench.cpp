@@ -18,7 +18,7 @@
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
 #include "recorder/mdlBoxTable.h"
-#include "storage/mdlCardReading.h"
+#include "storage/mdlCardTransfer.h"
 #include "tests/support/fake_desktop.h"
 
 namespace {
@@ -47,7 +47,8 @@ class Box {
     vk::gBoxTable[1].handle = 1;
     reading.serial = kSerial;
     reading.folder[0] = folder.string();
-    ready = vk::usbRTD(kSerial) == vk::kUsbOk && vk::openCard(reading, {}) &&
+    ready = vk::usbRTD(kSerial) == vk::kUsbOk &&
+            !(reading.files = vk::confirmHeaders(kSerial, vk::gCardDirectory, {})).empty() &&
             reading.files.front().size == kRecordingBytes;
   }
   ~Box() { vksim::attachBus(nullptr); }
@@ -55,6 +56,12 @@ class Box {
   fs::path savedFile() const {
     const std::string stem = vk::withoutExtension(reading.files.front().saveFileName);
     return fs::path(reading.folder[0]) / (stem + ".dat");
+  }
+
+  int32_t save() {
+    return vk::readDataFile({kSerial, reading.files.front(), vk::kReadToSave, reading.folder[0]},
+                            {})
+        .result;
   }
 
   vk::CardReading reading;
@@ -117,7 +124,7 @@ void transfer(benchmark::State& state, const fs::path& parent) {
   Box box(folder.path);
   const int64_t before = residentFromNow();
   for (auto _ : state) {
-    if (!box.ready || vk::readDataFile(box.reading, vk::kReadToSave, 0) != vk::kCardOk) {
+    if (!box.ready || box.save() != vk::kCardOk) {
       state.SkipWithError("the transfer failed");
       break;
     }
@@ -135,7 +142,7 @@ void copy(benchmark::State& state, const fs::path& parent, bool flushed) {
   const fs::path target = folder.path / "target";
   {
     Box box(folder.path);
-    if (!box.ready || vk::readDataFile(box.reading, vk::kReadToSave, 0) != vk::kCardOk) {
+    if (!box.ready || box.save() != vk::kCardOk) {
       state.SkipWithError("no file to copy");
       return;
     }

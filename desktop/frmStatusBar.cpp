@@ -38,6 +38,14 @@ void frmStatusBar::setProgress(double fraction) {
   progressBar(*picProgress_, fraction, false);
 }
 
+JobView frmStatusBar::jobView() {
+  return {[this](const std::string& first, const std::string& second) {
+            setLines(toQt(first), toQt(second));
+          },
+          [this](double fraction) { setProgress(fraction); },
+          {}};
+}
+
 void frmStatusBar::open() {
   centreOnScreen(*this);
   show();

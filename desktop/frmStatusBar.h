@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <QString>
 
+#include "base/mdlJob.h"
+
 class QLabel;
 
 namespace vk {
@@ -24,6 +26,8 @@ class frmStatusBar : public QDialog {
   /// Shows the window in the middle of the screen, painted, before the work begins.
   void open() override;
   void reject() override {}
+  /// What a job shows itself by; it is not longer than the window. It has no stop.
+  JobView jobView();
 
  private:
   QLabel* lblSub1_;

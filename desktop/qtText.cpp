@@ -4,16 +4,15 @@
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QStringDecoder>
 #include <algorithm>
+
+#include "base/mdlEncoding.h"
 
 namespace vk {
 
 QString toQt(std::string_view text) {
   const QByteArrayView bytes(text.data(), static_cast<qsizetype>(text.size()));
-  QStringDecoder decoder(QStringDecoder::Utf8);
-  QString result = decoder.decode(bytes);
-  return decoder.hasError() ? QString::fromLatin1(bytes) : result;
+  return isUtf8(text) ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
 }
 
 std::string fromQt(const QString& text) {

@@ -14,15 +14,15 @@ inline constexpr int kTimeoutCheck = 60;
 inline constexpr int kTimeoutUpgrade = 40;
 
 /// Nests: its end gives back what held before, kTimeoutDefault outside of all.
-class ReadTimeout {
+class ReadTimeoutGuard {
  public:
-  explicit ReadTimeout(int seconds) : before_(std::exchange(now_, seconds)) { apply(); }
-  ~ReadTimeout() {
+  explicit ReadTimeoutGuard(int seconds) : before_(std::exchange(now_, seconds)) { apply(); }
+  ~ReadTimeoutGuard() {
     now_ = before_;
     apply();
   }
-  ReadTimeout(const ReadTimeout&) = delete;
-  ReadTimeout& operator=(const ReadTimeout&) = delete;
+  ReadTimeoutGuard(const ReadTimeoutGuard&) = delete;
+  ReadTimeoutGuard& operator=(const ReadTimeoutGuard&) = delete;
 
  private:
   static void apply() { std::ignore = Vk240qSetReadTimeout(now_); }

@@ -28,25 +28,26 @@ std::string_view textOfBytes(const unsigned char* bytes, std::size_t count) {
 
 }  // namespace
 
-int32_t usbRTD(int32_t serial) {
+int32_t usbRTD(int32_t serial, const JobView& view) {
   const FlagGuard busy(gUSBBusy);
   gCardDirectory.clear();
   const int32_t handle = slotOf(serial);
   const int32_t sent = sendText(handle, "RTD");
   if (sent != kUsbWriteOk) return shownFailure(sent);
   std::array<unsigned char, kDirectoryBytes> image{};
+  // A stop takes effect behind the last block, or the next command would get what is still to come.
+  bool stopped = false;
   for (std::size_t i = 0; i < kDirectoryBlocks; ++i) {
     unsigned char* const block = image.data() + i * kDirectoryBlock;
     const int32_t count = Vk240qReadB(handle, block, static_cast<int32_t>(kDirectoryBlock));
     if (count < 1) return shownFailure(count);
     const auto text = textOfBytes(block, kDirectoryBlock);
     if (isErrorReply(text)) return shownFailure(replyErrorNumber(text));
-    if (gLinkEvents.progress) {
-      gLinkEvents.progress(static_cast<double>(i) / static_cast<double>(kDirectoryBlocks - 1));
-    }
-    desktop().doEvents();
+    view.tellProgress(static_cast<double>(i) / static_cast<double>(kDirectoryBlocks - 1));
+    stopped = !view.yield() || stopped;
     if (desktop().ending()) return kUsbNoReply;
   }
+  if (stopped) return kUsbNoReply;
   return decodeCardDirectory(image, gCardDirectory);
 }
 

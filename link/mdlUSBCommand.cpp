@@ -103,7 +103,7 @@ int32_t usbLST(int32_t serial, int selector) {
 
 int32_t usbCHK(int32_t serial, int test) {
   // The self checks take longer than an ordinary command.
-  const ReadTimeout patience(kTimeoutCheck);
+  const ReadTimeoutGuard patience(kTimeoutCheck);
   return exchange({.handle = slotOf(serial),
                    .request = fmt::format("CHK{}", test),
                    .length = 4,

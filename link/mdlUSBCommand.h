@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/clsDesktop.h"
+#include "base/mdlJob.h"
 #include "link/mdlExchange.h"
 #include "link/mdlReadTimeout.h"
 
@@ -32,7 +33,6 @@ void countUp(int32_t& counter);
 
 /// What the commands tell the windows; set once at start-up, empty functions are skipped.
 struct LinkEvents {
-  std::function<void(double fraction)> progress;  ///< directory blocks read so far, 0 to 1
   std::function<void()> countersChanged;
 };
 extern LinkEvents gLinkEvents;
@@ -64,8 +64,9 @@ int32_t usbMTR(int32_t serial);
 /// The card text of the box table for a result of usbFLN.
 std::string fileCountTextOf(int32_t result);
 int32_t usbFMT(int32_t serial);
-/// Reads the card's root directory into gCardDirectory (link/mdlCardDirectory.h).
-int32_t usbRTD(int32_t serial);
+/// Reads the card's root directory into gCardDirectory (link/mdlCardDirectory.h). kUsbNoReply, with
+/// nothing shown, when the view stops it or the program ends; a stopped one reads the rest first.
+int32_t usbRTD(int32_t serial, const JobView& view = {});
 /// The header file `name` of `size` bytes; on success `text` has size + 1 characters.
 int32_t usbHFL(int32_t serial, const std::string& name, int32_t size, std::string& text);
 /// Starts the transfer of a data file.

@@ -89,7 +89,7 @@ QHBoxLayout* frmCal::outputs() {
     auto* button = named(new QPushButton(toQt(kCalButtons[at]), this), elementName("cmdCal", i));
     button->setIconSize(kPictureSize);
     button->setIcon(calIcon(i));
-    connect(button, &QPushButton::clicked, this, [this, i] { press(i); });
+    connect(button, &QPushButton::clicked, this, [this, i] { cmdCal_Click(i); });
     cmdCal_[at] = button;
     row->addWidget(button, 1);
   }
@@ -124,14 +124,13 @@ void frmCal::build() {
   lines->addWidget(explanation);
   lines->addLayout(outputs());
   addPictures();
-  auto* cmdClose =
-      named(new QPushButton(QStringLiteral("Close"), this), QStringLiteral("cmdClose"));
+  auto* cmdClose = named(new QPushButton(tr("Close"), this), QStringLiteral("cmdClose"));
   connect(cmdClose, &QPushButton::clicked, this, &frmCal::reject);
   lines->addStretch(1);
   lines->addWidget(cmdClose, 0, Qt::AlignRight);
 }
 
-void frmCal::press(int button) {
+void frmCal::cmdCal_Click(int button) {
   if (busy_) return;
   bool stays = false;
   {

@@ -24,7 +24,7 @@ class frmCal : public QDialog {
   QHBoxLayout* outputs();
   void addPictures();
   void build();
-  void press(int button);
+  void cmdCal_Click(int button);
   void showPictures();
 
   Calibration calibration_;

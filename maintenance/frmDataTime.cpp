@@ -48,10 +48,9 @@ void frmDataTime::build() {
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(10);
   for (int box = 0; box < kDateBoxes; ++box) addBox(*grid, box);
-  cmdSet_ = named(new QPushButton(QStringLiteral("Set"), this), QStringLiteral("cmdSet"));
+  cmdSet_ = named(new QPushButton(tr("Set"), this), QStringLiteral("cmdSet"));
   cmdSet_->setDefault(true);
-  auto* cmdCancel =
-      named(new QPushButton(QStringLiteral("Close"), this), QStringLiteral("cmdCancel"));
+  auto* cmdCancel = named(new QPushButton(tr("Close"), this), QStringLiteral("cmdCancel"));
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);
   buttons->addWidget(cmdSet_);
@@ -62,7 +61,7 @@ void frmDataTime::build() {
   lines->addStretch(1);
   lines->addSpacing(10);
   lines->addLayout(buttons);
-  connect(cmdSet_, &QPushButton::clicked, this, &frmDataTime::set);
+  connect(cmdSet_, &QPushButton::clicked, this, &frmDataTime::cmdSet_Click);
   connect(cmdCancel, &QPushButton::clicked, this, &frmDataTime::reject);
 }
 
@@ -89,11 +88,11 @@ bool frmDataTime::eventFilter(QObject* watched, QEvent* event) {
   if (box == txtDate_.end() || (key != Qt::Key_Return && key != Qt::Key_Enter)) {
     return QDialog::eventFilter(watched, event);
   }
-  enter(static_cast<int>(box - txtDate_.begin()));
+  txtDate_KeyPress(static_cast<int>(box - txtDate_.begin()));
   return true;  // or the key would press the default button
 }
 
-void frmDataTime::enter(int box) {
+void frmDataTime::txtDate_KeyPress(int box) {
   if (busy_) return;
   const FlagGuard busy(busy_);
   select(acceptDateBox(texts(), box) ? box + 1 : box);
@@ -110,7 +109,7 @@ void frmDataTime::select(int box) {
   edit->selectAll();
 }
 
-void frmDataTime::set() {
+void frmDataTime::cmdSet_Click() {
   if (busy_) return;
   DateSent sent;
   {

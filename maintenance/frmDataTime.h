@@ -29,8 +29,8 @@ class frmDataTime : public QDialog {
   void build();
   void addBox(QGridLayout& grid, int box);
   DateTexts texts() const;
-  void enter(int box);
-  void set();
+  void txtDate_KeyPress(int box);
+  void cmdSet_Click();
   void select(int box);
 
   int32_t serial_;

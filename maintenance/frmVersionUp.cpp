@@ -15,7 +15,7 @@ namespace vk {
 
 frmVersionUp::frmVersionUp() {
   named(this, QStringLiteral("frmVersionUp"));
-  setWindowTitle(QStringLiteral("VK-480Q - Version Up -"));
+  setWindowTitle(tr("VK-480Q - Version Up -"));
   setWindowIcon(uiIcon(UiIcon::kProgram));
   auto* icon = new QLabel(this);
   icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(40, 40));
@@ -24,7 +24,7 @@ frmVersionUp::frmVersionUp() {
   lblProgress_ = named(new QLabel(this), QStringLiteral("lblProgress"));
   cmdNext_ = named(new QPushButton(this), QStringLiteral("cmdNext"));
   cmdNext_->setDefault(true);
-  cmdCancel_ = named(new QPushButton(QStringLiteral("Cancel"), this), QStringLiteral("cmdCancel"));
+  cmdCancel_ = named(new QPushButton(tr("Cancel"), this), QStringLiteral("cmdCancel"));
 
   auto* row = new QHBoxLayout;
   row->addWidget(icon, 0, Qt::AlignTop);
@@ -41,25 +41,30 @@ frmVersionUp::frmVersionUp() {
   lines->addLayout(buttons);
   setMinimumSize(480, 230);
 
-  upgrade_.show = [this](const std::string& label, const std::string& progress) {
-    lblMessage_->setText(toQt(label));
-    lblProgress_->setText(toQt(progress));
-    showNow(*this);
-  };
-  connect(cmdNext_, &QPushButton::clicked, this, &frmVersionUp::next);
+  connect(cmdNext_, &QPushButton::clicked, this, &frmVersionUp::cmdNext_Click);
   connect(cmdCancel_, &QPushButton::clicked, this, &frmVersionUp::reject);
   beginUpgrade(upgrade_);
   showStep();
   centreOnScreen(*this);
 }
 
-void frmVersionUp::next() {
+JobView frmVersionUp::jobView() {
+  return {[this](const std::string& label, const std::string& progress) {
+            lblMessage_->setText(toQt(label));
+            lblProgress_->setText(toQt(progress));
+            showNow(*this);
+          },
+          {},
+          {}};
+}
+
+void frmVersionUp::cmdNext_Click() {
   if (transferring_) return;
   const FlagGuard busy(transferring_);
   const bool running = upgrade_.step == UpgradeStep::kReady;
   cmdNext_->setEnabled(!running);
   cmdCancel_->setEnabled(!running);
-  if (nextUpgradeStep(upgrade_)) {
+  if (nextUpgradeStep(upgrade_, jobView())) {
     accept();
     return;
   }

@@ -19,7 +19,8 @@ class frmVersionUp : public QDialog {
   void reject() override;
 
  private:
-  void next();
+  JobView jobView();
+  void cmdNext_Click();
   void showStep();
 
   Upgrade upgrade_;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "maintenance/mdlBalance.h"
 
-#include "base/clsDesktop.h"
+#include <tuple>
+
+#include "base/mdlBox.h"
 #include "base/mdlGeneral.h"
 #include "base/mdlText.h"
 #include "link/mdlUSBCommand.h"
@@ -28,8 +30,7 @@ void addChannels(std::vector<BalanceStep>& steps, const MeasureSetting& box, int
 bool balance(const BalanceStep& step) {
   const int32_t result = usbBAL(step.serial, step.channel);
   if (result == kUsbOk || result == kBalanceOff) return true;
-  return desktop().messageBox("Balance Error", "Balance Error has occurred.continue?",
-                              BoxButtons::kYesNo, BoxIcon::kExclamation) != BoxAnswer::kNo;
+  return unlessNo("Balance Error", "Balance Error has occurred.continue?", BoxIcon::kExclamation);
 }
 
 }  // namespace
@@ -44,27 +45,26 @@ std::vector<BalanceStep> balanceSteps(int32_t serial, int32_t channel) {
   return steps;
 }
 
-void runBalance(const std::vector<BalanceStep>& steps, const JobView& view) {
-  double done = 0;
+std::size_t runBalance(const std::vector<BalanceStep>& steps, const JobView& view) {
+  std::size_t done = 0;
   for (const auto& step : steps) {
-    view.lines("Serial Number " + serialText(step.serial) + "  Channel" + textOf(step.channel),
-               "  Balancing");
-    desktop().doEvents();
-    if (desktop().ending() || !balance(step)) return;
-    view.progress(++done / static_cast<double>(steps.size()));
+    view.tell("Serial Number " + serialText(step.serial) + "  Channel" + textOf(step.channel),
+              "  Balancing");
+    if (!view.yield() || !balance(step)) break;
+    view.tellProgress(static_cast<double>(++done) / static_cast<double>(steps.size()));
   }
+  return done;
 }
 
 bool askCardInit(int32_t serial) {
   const std::string text =
       "Serial Number " + serialText(serial) + " CF card is" + " initialized." + "\r\n" + "OK?";
-  return desktop().messageBox("Initializing CF card", text, BoxButtons::kOkCancel,
-                              BoxIcon::kQuestion) == BoxAnswer::kOk;
+  return confirmBox("Initializing CF card", text, BoxIcon::kQuestion);
 }
 
 int32_t runCardInit(int32_t serial, const JobView& view) {
-  view.lines("CF card being initialized", "");
-  desktop().doEvents();
+  view.tell("CF card being initialized");
+  std::ignore = view.yield();  // the user has said OK; there is nothing to stop any more
   const int32_t result = usbFMT(serial);
   waitSeconds(kAfterInit);
   return result;

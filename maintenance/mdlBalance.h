@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Two jobs of a moment on boxes: zero-balancing channels, and initialising a card. What they say to
-// the user while they run goes through a handler.
+// Two jobs of a moment on boxes: zero-balancing channels, and initialising a card.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <functional>
-#include <string>
 #include <vector>
+
+#include "base/mdlJob.h"
 
 namespace vk {
 
@@ -20,16 +20,10 @@ struct BalanceStep {
 /// mode of a box has, or one.
 std::vector<BalanceStep> balanceSteps(int32_t serial, int32_t channel);
 
-/// The window that shows a running job.
-struct JobView {
-  /// Two lines; the second may be empty. Followed by a yield.
-  std::function<void(const std::string& first, const std::string& second)> lines;
-  std::function<void(double fraction)> progress;
-};
-
 /// Balances one channel after the other. A channel whose balance is off refuses, and counts as done
-/// all the same; after another failure the user is asked whether to go on.
-void runBalance(const std::vector<BalanceStep>& steps, const JobView& view);
+/// all the same; after another failure the user is asked whether to go on. The channels done: fewer
+/// than the steps when he does not want to, or when the view or the end of the program stops it.
+std::size_t runBalance(const std::vector<BalanceStep>& steps, const JobView& view);
 
 /// The question before a card is initialised; false after Cancel.
 bool askCardInit(int32_t serial);

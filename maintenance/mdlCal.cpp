@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "maintenance/mdlCal.h"
 
-#include <string>
-
-#include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "link/mdlUSBCommand.h"
 #include "recorder/mdlBoxTable.h"
 
@@ -17,8 +15,7 @@ constexpr int kCalOff = 0;
 
 bool pressCal(Calibration& calibration, int button) {
   if (!modelRow(familyOf(calibration.serial)).analogOutput) {
-    desktop().messageBox(std::string(kCalCaption), "Possible calibration output for VK-480Qe only.",
-                         BoxButtons::kOk, BoxIcon::kExclamation);
+    showBox(kCalCaption, "Possible calibration output for VK-480Qe only.");
     return false;
   }
   // Also after "CAL OFF": a second one at the end does no harm.

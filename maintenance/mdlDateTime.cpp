@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "base/mdlBox.h"
 #include "base/mdlText.h"
 #include "link/mdlUSBCommand.h"
 
@@ -69,11 +70,6 @@ std::string_view boxMessage(const DateTexts& texts, int box) {
   return *number < limits->least || *number > limits->most ? kOutsideValue : std::string_view{};
 }
 
-void showInputError(std::string_view message) {
-  desktop().messageBox(std::string(kInputError), std::string(message), BoxButtons::kOk,
-                       BoxIcon::kExclamation);
-}
-
 }  // namespace
 
 DateTexts dateTexts(const DateTime& time) {
@@ -87,7 +83,7 @@ DateTexts dateTexts(const DateTime& time) {
 
 bool acceptDateBox(const DateTexts& texts, int box) {
   const std::string_view message = boxMessage(texts, box);
-  if (!message.empty()) showInputError(message);
+  if (!message.empty()) showBox(kInputError, message);
   return message.empty();
 }
 
@@ -96,7 +92,7 @@ DateSent sendDate(int32_t serial, const DateTexts& texts) {
   for (int box = 0; box < kDateBoxes; ++box) {
     const auto number = numberIn(texts, box);
     if (!number) {
-      showInputError(unreadableMessage(texts[static_cast<std::size_t>(box)]));
+      showBox(kInputError, unreadableMessage(texts[static_cast<std::size_t>(box)]));
       return {kUsbUnreadable, box};
     }
     numbers[static_cast<std::size_t>(box)] = *number;

@@ -3,11 +3,13 @@
 
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
-#include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "base/mdlGeneral.h"
 #include "base/mdlMessages.h"
 #include "base/mdlText.h"
+#include "link/mdlReadTimeout.h"
 #include "link/mdlUSBCommand.h"
 #include "link/vk240q_lib.h"
 
@@ -44,49 +46,46 @@ void chooseFile(Upgrade& upgrade) {
   if (chosen.path.empty()) return;
   if (!isProgramName(chosen.path) ||
       !readImage(chosen.path, upgradeImageSize(upgrade.imageKind), upgrade.image)) {
-    desktop().messageBox("Version Up", "Specified file is not a program file.", BoxButtons::kOk,
-                         BoxIcon::kExclamation);
+    showBox("Version Up", "Specified file is not a program file.");
     return;
   }
   upgrade.step = UpgradeStep::kReady;
   upgrade.message = upgradeText(upgrade.step).lines;
 }
 
-void tell(const Upgrade& upgrade, const std::string& label, const std::string& progress) {
-  if (upgrade.show) upgrade.show(label, progress);
-  desktop().doEvents();
+void show(const JobView& view, const std::string& label, const std::string& progress) {
+  view.tell(label, progress);
+  // A transfer that is broken off would leave the instrument without a program.
+  std::ignore = view.yield();
 }
 
 // Whether the instrument says that it has taken the program.
-bool renewed(const Upgrade& upgrade) {
-  const ReadTimeout patience(kTimeoutUpgrade);
-  tell(upgrade, "Now it is being renewed.", "READ_A...");
-  std::string reply(kReplyLength, ' ');
-  const int32_t result = Vk240qReadA(kDevice, reply.data());
-  return result >= 1 && contains(reply, "END");
+bool renewed(const JobView& view) {
+  const ReadTimeoutGuard timeout(kTimeoutUpgrade);
+  show(view, "Now it is being renewed.", "READ_A...");
+  std::string reply;
+  return receiveText(kDevice, reply) >= 1 && contains(reply, "END");
 }
 
-// The whole transfer; what it came to is the message.
-bool transfer(const Upgrade& upgrade, std::string& message) {
+struct Transferred {
+  bool done = false;
+  std::string message;
+};
+
+Transferred transfer(const std::vector<unsigned char>& image, const JobView& view) {
   constexpr int kBlocks = 3;
-  const auto size = static_cast<int32_t>(upgrade.image.size());
+  const auto size = static_cast<int32_t>(image.size());
   for (int block = 1; block <= kBlocks; ++block) {
-    tell(upgrade, "Data are being transmitted.", "PWE..." + textOf(block));
+    show(view, "Data are being transmitted.", "PWE..." + textOf(block));
     if (usbPWE(block, size) != kUsbOk) {
-      message = std::string("Program command error has occurred.\n") + kNotUpgraded;
-      return false;
+      return {false, std::string("Program command error has occurred.\n") + kNotUpgraded};
     }
   }
-  if (Vk240qWriteB(kDevice, upgrade.image.data(), size) != kUsbWriteOk) {
-    message = std::string("Transmitting Error has occurred.\n") + kNotUpgraded;
-    return false;
+  if (Vk240qWriteB(kDevice, image.data(), size) != kUsbWriteOk) {
+    return {false, std::string("Transmitting Error has occurred.\n") + kNotUpgraded};
   }
-  if (!renewed(upgrade)) {
-    message = kProgramError;
-    return false;
-  }
-  message = upgradeText(UpgradeStep::kFinished).lines;
-  return true;
+  if (!renewed(view)) return {false, kProgramError};
+  return {true, upgradeText(UpgradeStep::kFinished).lines};
 }
 
 }  // namespace
@@ -127,25 +126,27 @@ UpgradeText upgradeText(UpgradeStep step) {
 
 void beginUpgrade(Upgrade& upgrade) {
   // The result says only that a reply came; the kind is what counts.
-  (void)usbUpgradeMET(upgrade.imageKind);
+  std::ignore = usbUpgradeMET(upgrade.imageKind);
   upgrade.message = upgradeText(upgrade.step).lines;
 }
 
-bool nextUpgradeStep(Upgrade& upgrade) {
+bool nextUpgradeStep(Upgrade& upgrade, const JobView& view) {
   switch (upgrade.step) {
     case UpgradeStep::kWarning:
       upgrade.step = UpgradeStep::kChooseFile;
       upgrade.message = upgradeText(upgrade.step).lines;
-      if (upgrade.show) upgrade.show(upgrade.message, {});
+      view.tell(upgrade.message);
       chooseFile(upgrade);
       return false;
     case UpgradeStep::kChooseFile:
       chooseFile(upgrade);
       return false;
-    case UpgradeStep::kReady:
-      upgrade.step =
-          transfer(upgrade, upgrade.message) ? UpgradeStep::kFinished : UpgradeStep::kFailed;
+    case UpgradeStep::kReady: {
+      const Transferred result = transfer(upgrade.image, view);
+      upgrade.step = result.done ? UpgradeStep::kFinished : UpgradeStep::kFailed;
+      upgrade.message = result.message;
       return false;
+    }
     case UpgradeStep::kFinished:
     case UpgradeStep::kFailed:
       return true;

@@ -4,9 +4,10 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
+
+#include "base/mdlJob.h"
 
 namespace vk {
 
@@ -30,13 +31,12 @@ struct Upgrade {
   int32_t imageKind = 0;
   std::vector<unsigned char> image;
   std::string message;  ///< what the label shows
-  /// Label and progress text while the transfer runs; each call is followed by a yield.
-  std::function<void(const std::string& label, const std::string& progress)> show;
 };
 
 /// Asks the instrument for its kind.
 void beginUpgrade(Upgrade& upgrade);
-/// The button: asks for the file, or transfers it. Returns true when the form is to close.
-bool nextUpgradeStep(Upgrade& upgrade);
+/// The button: asks for the file, or transfers it, which tells label and progress text. Returns
+/// true when the form is to close.
+bool nextUpgradeStep(Upgrade& upgrade, const JobView& view);
 
 }  // namespace vk

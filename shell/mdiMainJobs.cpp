@@ -28,18 +28,6 @@
 
 namespace vk {
 
-namespace {
-
-/// The running job's window, as the job sees it.
-JobView viewOf(frmStatusBar& window) {
-  return {[&window](const std::string& first, const std::string& second) {
-            window.setLines(toQt(first), toQt(second));
-          },
-          [&window](double fraction) { window.setProgress(fraction); }};
-}
-
-}  // namespace
-
 bool mdiMain::selectBox(int32_t mode, bool check) {
   gSelMode = mode;
   frmSelectMeterCh dialog(check, this);
@@ -62,10 +50,7 @@ void mdiMain::mnuFMeterRead_Click() {
     frmStatusBar progress(QStringLiteral("Read USB"), this);
     progress.setLines(tr("Reading the directory of the CF card."));
     progress.open();
-    gLinkEvents.progress = [&progress](double fraction) { progress.setProgress(fraction); };
-    const int32_t result = usbRTD(serial);
-    gLinkEvents.progress = {};
-    if (result != kUsbOk) return;
+    if (usbRTD(serial, progress.jobView()) != kUsbOk) return;
   }
   waveRequestSet = 0;
   frmRouteDirectory form(serial, this);
@@ -109,7 +94,7 @@ void mdiMain::mnuCBalance_Click() {
   const auto steps = balanceSteps(gSelSerial, gSelChannel);
   frmStatusBar window(QStringLiteral("Balance"), this);
   window.open();
-  runBalance(steps, viewOf(window));
+  runBalance(steps, window.jobView());
 }
 
 void mdiMain::mnuCCFinit_Click() {
@@ -117,7 +102,7 @@ void mdiMain::mnuCCFinit_Click() {
   if (!selectBox(kSelectConnected) || !askCardInit(gSelSerial)) return;
   frmStatusBar window(QStringLiteral("Initializing CF card"), this);
   window.open();
-  runCardInit(gSelSerial, viewOf(window));
+  runCardInit(gSelSerial, window.jobView());
 }
 
 }  // namespace vk

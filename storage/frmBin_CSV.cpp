@@ -12,8 +12,8 @@
 
 #include "base/mdlGeneral.h"
 #include "base/mdlGuard.h"
+#include "desktop/formParts.h"
 #include "desktop/qtText.h"
-#include "storage/frmFormParts.h"
 #include "storage/frmSelectFolder.h"
 #include "storage/mdlFolderList.h"
 
@@ -68,32 +68,47 @@ void frmBin_CSV::buildLayout() {
 }
 
 void frmBin_CSV::connectControls() {
-  progress_.connectTo(work_.view);
-  work_.view.stopped = [this] { return stop_; };
-  connect(lvwFileName_, &QTreeWidget::customContextMenuRequested, this, &frmBin_CSV::openMenu);
-  connect(cmdCSVSave_, &QPushButton::clicked, this, &frmBin_CSV::convert);
-  connect(cmdCancel_, &QPushButton::clicked, this, [this] {
-    if (busy_) {
-      stop_ = true;
-    } else {
-      reject();
-    }
-  });
-  // A folder typed in is listed as well.
-  connect(folders_[0].txtFolder, &QLineEdit::editingFinished, this, [this] {
-    if (!busy_ && fromQt(folders_[0].txtFolder->text()) != work_.folder[0]) fillList();
-  });
+  connect(lvwFileName_, &QTreeWidget::customContextMenuRequested, this,
+          &frmBin_CSV::lvwFileName_MouseUp);
+  connect(cmdCSVSave_, &QPushButton::clicked, this, &frmBin_CSV::cmdCSVSave_Click);
+  connect(cmdCancel_, &QPushButton::clicked, this, &frmBin_CSV::cmdCancel_Click);
+  connect(folders_[0].txtFolder, &QLineEdit::editingFinished, this,
+          &frmBin_CSV::txtFolder_LostFocus);
   for (int i = 0; i < 2; ++i)
-    connect(folders_[i].cmdFolder, &QPushButton::clicked, this, [this, i] { pickFolder(i); });
+    connect(folders_[i].cmdFolder, &QPushButton::clicked, this, [this, i] { cmdFolder_Click(i); });
+}
+
+JobView frmBin_CSV::jobView() {
+  JobView view = progress_.jobView();
+  view.stopped = [this] { return stop_; };
+  return view;
 }
 
 void frmBin_CSV::fillList() {
-  work_.folder[0] = fromQt(folders_[0].txtFolder->text());
-  work_.files = recordingsIn(work_.folder[0]);
+  takeChecks(*lvwFileName_, work_.files);
+  listFolder(work_, fromQt(folders_[0].txtFolder->text()));
   lvwFileName_->clear();
   for (const CardEntry& entry : work_.files) addFileRow(*lvwFileName_, entry);
   showChecks(*lvwFileName_, work_.files, true);
   lvwFileName_->setCurrentItem(lvwFileName_->topLevelItem(0));
+}
+
+void frmBin_CSV::followTyping() {
+  if (fromQt(folders_[0].txtFolder->text()) == work_.folder[0]) return;
+  fillList();
+  work_.typed = true;
+}
+
+void frmBin_CSV::txtFolder_LostFocus() {
+  if (!busy_) followTyping();
+}
+
+void frmBin_CSV::cmdCancel_Click() {
+  if (busy_) {
+    stop_ = true;
+  } else {
+    reject();
+  }
 }
 
 void frmBin_CSV::checkAll(bool on) {
@@ -102,33 +117,33 @@ void frmBin_CSV::checkAll(bool on) {
   showChecks(*lvwFileName_, work_.files, true);
 }
 
-void frmBin_CSV::openMenu(const QPoint& position) {
+void frmBin_CSV::lvwFileName_MouseUp(const QPoint& position) {
   if (!busy_) mnuAllSelect_->popup(lvwFileName_->viewport()->mapToGlobal(position));
 }
 
-void frmBin_CSV::pickFolder(int index) {
+void frmBin_CSV::cmdFolder_Click(int index) {
   if (busy_) return;
   gFolderRole = index == 0 ? 0 : kFolderSave;
   frmSelectFolder(this).exec();
   folders_[index].txtFolder->setText(toQt(gDefaultFolder));
-  if (index == 0) fillList();
+  if (index != 0) return;
+  fillList();
+  work_.typed = false;
 }
 
-void frmBin_CSV::convert() {
+void frmBin_CSV::cmdCSVSave_Click() {
   if (busy_) return;
-  // A folder may be typed and the button be pressed by its letter: the list has not followed yet.
-  if (fromQt(folders_[0].txtFolder->text()) != work_.folder[0]) {
-    fillList();
-    return;
-  }
   {
     const FlagGuard busy(busy_);
     stop_ = close_ = false;
+    // The button may be pressed by its letter: the list has not followed the typing yet.
+    followTyping();
     carryIn();
-    if (!readyToConvert(work_)) return;
+    const JobView view = jobView();
+    if (!readyToConvert(work_, view)) return;
     setControlsEnabled(false);
     desktop().doEvents();
-    static_cast<void>(convertCheckedFiles(work_));
+    if (convertCheckedFiles(work_, view) != kCardOk) progress_.clear();
     setControlsEnabled(true);
   }
   if (close_) QDialog::reject();

@@ -5,7 +5,7 @@
 
 #include <QDialog>
 
-#include "storage/frmCsvControls.h"
+#include "storage/frmCardParts.h"
 #include "storage/mdlCsvFolder.h"
 
 namespace vk {
@@ -24,12 +24,19 @@ class frmBin_CSV : public QDialog {
   void buildControls();
   void buildLayout();
   void connectControls();
+
+  void txtFolder_LostFocus();
+  void lvwFileName_MouseUp(const QPoint& position);
+  void cmdFolder_Click(int index);
+  void cmdCSVSave_Click();
+  void cmdCancel_Click();
+
   /// Lists the folder to read from; only what is listed is converted.
   void fillList();
+  /// Lists it when it has been typed otherwise.
+  void followTyping();
   void checkAll(bool on);
-  void openMenu(const QPoint& position);
-  void pickFolder(int index);
-  void convert();
+  JobView jobView();
   /// Takes the folder to save in, the choices and the check boxes over.
   void carryIn();
   void setControlsEnabled(bool on);

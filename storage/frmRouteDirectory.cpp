@@ -16,12 +16,12 @@
 #include "base/mdlText.h"
 #include "desktop/frmStatusBar.h"
 #include "desktop/qtText.h"
+#include "link/mdlCardDirectory.h"
 #include "recorder/mdlBoxTable.h"
 #include "storage/frmSelectFolder.h"
 #include "storage/frmSetFileSer.h"
 #include "storage/mdlFolderList.h"
 #include "storage/mdlNaming.h"
-#include "storage/mdlTempFiles.h"
 #include "storage/mdlWaveOpenRequest.h"
 
 namespace vk {
@@ -36,7 +36,6 @@ frmRouteDirectory::frmRouteDirectory(int32_t serial, QWidget* parent) : QDialog(
   buildLayout();
   auto* TmrRoute = named(new QTimer(this), QStringLiteral("TmrRoute"));
   TmrRoute->setInterval(100);
-  connectView();
   connectControls();
   selectTab(kTabWave);
   centreOnScreen(*this);
@@ -44,49 +43,42 @@ frmRouteDirectory::frmRouteDirectory(int32_t serial, QWidget* parent) : QDialog(
 
 frmRouteDirectory::~frmRouteDirectory() = default;
 
-void frmRouteDirectory::connectView() {
-  progress_.connectTo(reading_.view);
-  reading_.view.appendTempFile = [](const std::string& line) { gTempFileList += line; };
-}
-
 void frmRouteDirectory::connectControls() {
-  connect(tbsSelect_, &QTabBar::currentChanged, this, [this](int index) { selectTab(index + 1); });
+  connect(tbsSelect_, &QTabBar::currentChanged, this, &frmRouteDirectory::tbsSelect_Click);
   // The keyboard moves the selection without a click.
-  connect(lvwFileName_, &QTreeWidget::currentItemChanged, this, &frmRouteDirectory::clickRow);
-  connect(lvwFileName_, &QTreeWidget::itemClicked, this, &frmRouteDirectory::clickRow);
+  connect(lvwFileName_, &QTreeWidget::currentItemChanged, this,
+          &frmRouteDirectory::lvwFileName_ItemClick);
+  connect(lvwFileName_, &QTreeWidget::itemClicked, this, &frmRouteDirectory::lvwFileName_ItemClick);
   connect(lvwFileName_, &QTreeWidget::customContextMenuRequested, this,
-          &frmRouteDirectory::openMenu);
-  connect(cmdRun_, &QPushButton::clicked, this, &frmRouteDirectory::run);
-  connect(cmdBinSave_, &QPushButton::clicked, this, [this] { save(kSaveBinary); });
-  connect(cmdCSVSave_, &QPushButton::clicked, this, [this] { save(kSaveCsv); });
-  connect(cmdFileSerNameChange_, &QPushButton::clicked, this, &frmRouteDirectory::changeNames);
+          &frmRouteDirectory::lvwFileName_MouseUp);
+  connect(cmdRun_, &QPushButton::clicked, this, &frmRouteDirectory::cmdRun_Click);
+  connect(cmdBinSave_, &QPushButton::clicked, this, &frmRouteDirectory::cmdBinSave_Click);
+  connect(cmdCSVSave_, &QPushButton::clicked, this, &frmRouteDirectory::cmdCSVSave_Click);
+  connect(cmdFileSerNameChange_, &QPushButton::clicked, this,
+          &frmRouteDirectory::cmdFileSerNameChange_Click);
   connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
   for (int i = 0; i < 2; ++i)
-    connect(cmdFolder_[i], &QPushButton::clicked, this, [this, i] { pickFolder(i); });
+    connect(cmdFolder_[i], &QPushButton::clicked, this, [this, i] { cmdFolder_Click(i); });
 }
 
-CardOpeningView frmRouteDirectory::openingView() {
-  CardOpeningView view;
-  view.showStatus = [this](const std::string& title, const std::string& text) {
-    status_ = std::make_unique<frmStatusBar>(toQt(title), parentWidget());
-    status_->setLines(toQt(text));
-    status_->open();
-  };
-  view.setProgress = [this](double fraction) {
-    if (status_) status_->setProgress(fraction);
-  };
-  view.addRow = [this](std::size_t row) { addRow(row); };
-  view.closeStatus = [this] { status_.reset(); };
-  return view;
+std::vector<CardEntry> frmRouteDirectory::confirmFiles() {
+  // The directory is copied: a yield lets other work through.
+  const std::vector<CardFile> directory = gCardDirectory;
+  if (directory.empty()) return {};
+  const FlagGuard busy(busy_);
+  frmStatusBar status(tr("Confirm Headder File"), parentWidget());
+  status.setLines(tr("Confirming header file of instrument."));
+  status.open();
+  return confirmHeaders(reading_.serial, directory, status.jobView());
 }
 
 bool frmRouteDirectory::openCard() {
+  reading_.tab = kTabWave;
+  reading_.lastClicked.clear();
+  reading_.files = confirmFiles();
   lvwFileName_->clear();
-  const bool any = [this] {
-    const FlagGuard busy(busy_);
-    return vk::openCard(reading_, openingView());
-  }();
-  if (!any) {
+  for (const CardEntry& entry : reading_.files) addFileRow(*lvwFileName_, entry);
+  if (reading_.files.empty()) {
     setControlsEnabled(emptyCardControls(), false);
     txtHead_->setPlaceholderText(tr("The card holds no data file."));
     return false;
@@ -94,18 +86,12 @@ bool frmRouteDirectory::openCard() {
   csv_.fillDivisions();
   const QString folder = toQt(settleDefaultFolder());
   for (auto* box : txtFolder_) box->setText(folder);
-  setControlsEnabled(lockedControls(kTabCsv), false);
-  setControlsEnabled(unlockedControls(kTabCsv), true);
   selectTab(reading_.tab);
   lvwFileName_->setCurrentItem(lvwFileName_->topLevelItem(0));
   lvwFileName_->setFocus();
   txtHead_->setPlaceholderText(tr("Click a file to see its header."));
   answering_ = true;
   return true;
-}
-
-void frmRouteDirectory::addRow(std::size_t row) {
-  addFileRow(*lvwFileName_, reading_.files[row]);
 }
 
 void frmRouteDirectory::showRows() {
@@ -115,6 +101,10 @@ void frmRouteDirectory::showRows() {
     item->setText(0, toQt(entry.rowText));
     item->setText(4, toQt(entry.seriesText));
   }
+}
+
+void frmRouteDirectory::tbsSelect_Click(int index) {
+  selectTab(index + 1);
 }
 
 void frmRouteDirectory::selectTab(int tab) {
@@ -132,7 +122,7 @@ void frmRouteDirectory::selectTab(int tab) {
   showChecks(*lvwFileName_, reading_.files, view.checkBoxes);
 }
 
-void frmRouteDirectory::clickRow(QTreeWidgetItem* item) {
+void frmRouteDirectory::lvwFileName_ItemClick(QTreeWidgetItem* item) {
   const int row = lvwFileName_->indexOfTopLevelItem(item);
   if (row < 0 || busy_ || !answering_) return;
   const SelectedHeader header = [&] {
@@ -144,7 +134,7 @@ void frmRouteDirectory::clickRow(QTreeWidgetItem* item) {
   cmdRun_->setEnabled(true);
 }
 
-void frmRouteDirectory::openMenu(const QPoint& position) {
+void frmRouteDirectory::lvwFileName_MouseUp(const QPoint& position) {
   if (busy_ || !cardTabView(reading_.tab, reading_.files.size()).checkBoxes) return;
   mnuAllSelect_->popup(lvwFileName_->viewport()->mapToGlobal(position));
 }
@@ -156,7 +146,7 @@ void frmRouteDirectory::checkAll(bool on) {
              cardTabView(reading_.tab, reading_.files.size()).checkBoxes);
 }
 
-void frmRouteDirectory::run() {
+void frmRouteDirectory::cmdRun_Click() {
   const int row = lvwFileName_->indexOfTopLevelItem(lvwFileName_->currentItem());
   if (row < 0 || busy_) return;
   {
@@ -164,13 +154,28 @@ void frmRouteDirectory::run() {
     carryIn();
     lockControls();
     desktop().doEvents();
-    const bool fetched = readForWaveView(reading_, static_cast<std::size_t>(row)) == kCardOk;
+    const CardFetched fetched =
+        readDataFile({reading_.serial, reading_.files[static_cast<std::size_t>(row)], kReadToView,
+                      reading_.temporaryFolder},
+                     progress_.jobView());
+    if (fetched.result == kCardOk) {
+      resetWaveOpenRequest();
+      waveOpenRequest = waveRequestOf(fetched);
+    }
     unlockControls();
     desktop().doEvents();
-    if (!fetched) return;
+    if (fetched.result != kCardOk) return;
   }
   waveRequestSet = 1;
   accept();
+}
+
+void frmRouteDirectory::cmdBinSave_Click() {
+  save(kSaveBinary);
+}
+
+void frmRouteDirectory::cmdCSVSave_Click() {
+  save(kSaveCsv);
 }
 
 void frmRouteDirectory::save(SaveKind kind) {
@@ -179,19 +184,19 @@ void frmRouteDirectory::save(SaveKind kind) {
   carryIn();
   lockControls();
   desktop().doEvents();
-  saveCheckedFiles(reading_, kind);
+  if (saveCheckedFiles(reading_, kind, progress_.jobView()).any) progress_.clear();
   unlockControls();
   desktop().doEvents();
 }
 
-void frmRouteDirectory::pickFolder(int index) {
+void frmRouteDirectory::cmdFolder_Click(int index) {
   if (busy_) return;
   gFolderRole = kFolderSave;
   frmSelectFolder(this).exec();
   txtFolder_[index]->setText(toQt(gDefaultFolder));
 }
 
-void frmRouteDirectory::changeNames() {
+void frmRouteDirectory::cmdFileSerNameChange_Click() {
   if (busy_) return;
   carryIn();
   NamingList list;
@@ -227,7 +232,7 @@ void frmRouteDirectory::lockControls() {
 }
 
 void frmRouteDirectory::unlockControls() {
-  setControlsEnabled(unlockedControls(reading_.tab), true);
+  setControlsEnabled(lockedControls(reading_.tab), true);
   tbsSelect_->setEnabled(true);
   lvwFileName_->setEnabled(true);
   lvwFileName_->setFocus();

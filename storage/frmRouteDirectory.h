@@ -6,11 +6,11 @@
 
 #include <QDialog>
 #include <cstdint>
-#include <memory>
 #include <string_view>
+#include <vector>
 
-#include "storage/frmCsvControls.h"
-#include "storage/mdlCardReading.h"
+#include "storage/frmCardParts.h"
+#include "storage/mdlCardSaving.h"
 
 class QLineEdit;
 class QMenu;
@@ -22,8 +22,6 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace vk {
-
-class frmStatusBar;
 
 class frmRouteDirectory : public QDialog {
   Q_OBJECT
@@ -50,19 +48,21 @@ class frmRouteDirectory : public QDialog {
   QWidget* buildFolder(int index, QWidget* panel);
   void buildLayout();
   void connectControls();
-  void connectView();
-  CardOpeningView openingView();
 
-  void addRow(std::size_t row);
+  void tbsSelect_Click(int index);
+  void lvwFileName_ItemClick(QTreeWidgetItem* item);
+  void lvwFileName_MouseUp(const QPoint& position);
+  void cmdRun_Click();
+  void cmdBinSave_Click();
+  void cmdCSVSave_Click();
+  void cmdFolder_Click(int index);
+  void cmdFileSerNameChange_Click();
+
+  std::vector<CardEntry> confirmFiles();
   void showRows();
   void selectTab(int tab);
-  void clickRow(QTreeWidgetItem* item);
-  void openMenu(const QPoint& position);
   void checkAll(bool on);
-  void run();
   void save(SaveKind kind);
-  void pickFolder(int index);
-  void changeNames();
 
   /// Takes the folders, the division and the check boxes over into the state.
   void carryIn();
@@ -73,7 +73,6 @@ class frmRouteDirectory : public QDialog {
   CardReading reading_;
   bool busy_ = false;       ///< an exchange with the box is under way
   bool answering_ = false;  ///< rows answer to a selection: not while the window fills them
-  std::unique_ptr<frmStatusBar> status_;
 
   QTreeWidget* lvwFileName_;
   QTabBar* tbsSelect_;

@@ -12,8 +12,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "desktop/formParts.h"
 #include "desktop/qtText.h"
-#include "storage/frmFormParts.h"
 #include "storage/frmRouteDirectory.h"
 
 namespace vk {
@@ -80,13 +80,6 @@ QWidget* frmRouteDirectory::buildCsvPanel() {
   auto* panel = named(new QWidget(this), QStringLiteral("picCSVSave"));
   cmdCSVSave_ = named(new QPushButton(tr("&Save"), panel), QStringLiteral("cmdCSVSave"),
                       tr("Save the checked files as CSV"));
-  if (!gConvertToCsv) {
-    const QString later = tr(
-        "Will save the checked files as comma-separated text, whole or cut into files of as many "
-        "samples as \"Division\" says.");
-    cmdCSVSave_->setToolTip(later);
-    cmdCSVSave_->setStatusTip(later);
-  }
   auto* lines = panelLayout(panel);
   lines->addWidget(buildFolder(1, panel));
   csv_.build(panel, *lines);

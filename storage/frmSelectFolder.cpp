@@ -12,8 +12,8 @@
 
 #include "base/mdlGeneral.h"
 #include "desktop/clsElidedLabel.h"
+#include "desktop/formParts.h"
 #include "desktop/qtText.h"
-#include "storage/frmFormParts.h"
 #include "storage/mdlFolderList.h"
 #include "storage/mdlFolderTree.h"
 
@@ -69,7 +69,7 @@ void frmSelectFolder::buildLayout() {
   auto* cmdSet = named(new QPushButton(tr("&Select"), this), QStringLiteral("cmdSet"));
   auto* cmdCancel = named(new QPushButton(tr("Cancel"), this), QStringLiteral("cmdCancel"));
   cmdSet->setDefault(true);
-  connect(cmdSet, &QPushButton::clicked, this, &frmSelectFolder::select);
+  connect(cmdSet, &QPushButton::clicked, this, &frmSelectFolder::cmdSet_Click);
   connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
   auto* drive = captionOf(tr("&Drive"), Drive1_, this);
 
@@ -92,8 +92,8 @@ void frmSelectFolder::buildLayout() {
 }
 
 void frmSelectFolder::connectControls() {
-  connect(Drive1_, &QComboBox::currentIndexChanged, this, &frmSelectFolder::changeDrive);
-  connect(Dir1_, &QTreeWidget::currentItemChanged, this, &frmSelectFolder::takePath);
+  connect(Drive1_, &QComboBox::currentIndexChanged, this, &frmSelectFolder::Drive1_Change);
+  connect(Dir1_, &QTreeWidget::currentItemChanged, this, &frmSelectFolder::Dir1_Change);
   connect(Dir1_, &QTreeWidget::itemExpanded, this, [this](auto* item) { fill(item, {}); });
 }
 
@@ -122,23 +122,23 @@ void frmSelectFolder::showPath(const std::string& path) {
   item->setExpanded(true);
   Dir1_->setCurrentItem(item);
   Dir1_->scrollToItem(item, QAbstractItemView::PositionAtCenter);
-  takePath(item);
+  Dir1_Change(item);
 }
 
-void frmSelectFolder::takePath(QTreeWidgetItem* item) {
+void frmSelectFolder::Dir1_Change(QTreeWidgetItem* item) {
   if (!item) return;
   path_ = pathOf(*item);
   lblFolder_->setText(toQt(path_));
 }
 
-void frmSelectFolder::changeDrive(int index) {
+void frmSelectFolder::Drive1_Change(int index) {
   const auto path = pathAfterDrive(drives_[static_cast<std::size_t>(index)], path_);
   const QSignalBlocker quiet(Drive1_);
   Drive1_->setCurrentIndex(static_cast<int>(driveOf(drives_, path)));
   showPath(path);
 }
 
-void frmSelectFolder::select() {
+void frmSelectFolder::cmdSet_Click() {
   chooseFolder(path_);
   accept();
 }

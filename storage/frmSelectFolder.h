@@ -31,9 +31,9 @@ class frmSelectFolder : public QDialog {
   void showPath(const std::string& path);
   /// Reads the folders below an item, once; the item of `open`, which is put in when hidden.
   QTreeWidgetItem* fill(QTreeWidgetItem* item, const std::string& open);
-  void changeDrive(int index);
-  void takePath(QTreeWidgetItem* item);
-  void select();
+  void Drive1_Change(int index);
+  void Dir1_Change(QTreeWidgetItem* item);
+  void cmdSet_Click();
 
   std::vector<std::string> drives_;
   std::string path_;

@@ -12,8 +12,8 @@
 #include <QVBoxLayout>
 
 #include "base/mdlTwips.h"
+#include "desktop/formParts.h"
 #include "desktop/qtText.h"
-#include "storage/frmFormParts.h"
 #include "storage/mdlCardReading.h"
 #include "storage/mdlNaming.h"
 
@@ -97,18 +97,13 @@ void frmSetFileSer::buildLayout() {
 
 void frmSetFileSer::connectControls() {
   connect(lvwFileName_, &QTreeWidget::currentItemChanged, this,
-          [this](QTreeWidgetItem* item) { takeRow(lvwFileName_->indexOfTopLevelItem(item)); });
-  connect(lvwFileName_, &QTreeWidget::itemClicked, this,
-          [this](QTreeWidgetItem* item) { takeRow(lvwFileName_->indexOfTopLevelItem(item)); });
-  connect(txtFileName_, &QLineEdit::returnPressed, this,
-          [this] { apply(enterFileName, *txtFileName_); });
-  connect(txtSerName_, &QLineEdit::returnPressed, this,
-          [this] { apply(enterSeriesText, *txtSerName_); });
-  connect(cmdFAutoSet_, &QPushButton::clicked, this,
-          [this] { apply(setAllFileNames, *txtAutoFileName_); });
-  connect(cmdSAutoSet_, &QPushButton::clicked, this,
-          [this] { apply(setAllSeries, *txtAutoSerName_); });
-  connect(cmdSet_, &QPushButton::clicked, this, &frmSetFileSer::set);
+          &frmSetFileSer::lvwFileName_ItemClick);
+  connect(lvwFileName_, &QTreeWidget::itemClicked, this, &frmSetFileSer::lvwFileName_ItemClick);
+  connect(txtFileName_, &QLineEdit::returnPressed, this, &frmSetFileSer::txtFileName_KeyPress);
+  connect(txtSerName_, &QLineEdit::returnPressed, this, &frmSetFileSer::txtSerName_KeyPress);
+  connect(cmdFAutoSet_, &QPushButton::clicked, this, &frmSetFileSer::cmdFAutoSet_Click);
+  connect(cmdSAutoSet_, &QPushButton::clicked, this, &frmSetFileSer::cmdSAutoSet_Click);
+  connect(cmdSet_, &QPushButton::clicked, this, &frmSetFileSer::cmdSet_Click);
   connect(cmdCancel_, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -147,7 +142,27 @@ void frmSetFileSer::apply(bool (*rule)(NamingList&, std::string_view), const QLi
   if (rule(list_, fromQt(box.text()))) showRows();
 }
 
-void frmSetFileSer::set() {
+void frmSetFileSer::lvwFileName_ItemClick(QTreeWidgetItem* item) {
+  takeRow(lvwFileName_->indexOfTopLevelItem(item));
+}
+
+void frmSetFileSer::txtFileName_KeyPress() {
+  apply(enterFileName, *txtFileName_);
+}
+
+void frmSetFileSer::txtSerName_KeyPress() {
+  apply(enterSeriesText, *txtSerName_);
+}
+
+void frmSetFileSer::cmdFAutoSet_Click() {
+  apply(setAllFileNames, *txtAutoFileName_);
+}
+
+void frmSetFileSer::cmdSAutoSet_Click() {
+  apply(setAllSeries, *txtAutoSerName_);
+}
+
+void frmSetFileSer::cmdSet_Click() {
   copyNamesBack(list_, reading_);
   accept();
 }

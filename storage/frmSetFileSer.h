@@ -9,6 +9,7 @@
 class QLineEdit;
 class QPushButton;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace vk {
 
@@ -32,11 +33,18 @@ class frmSetFileSer : public QDialog {
   void buildControls();
   void buildLayout();
   void connectControls();
+
+  void lvwFileName_ItemClick(QTreeWidgetItem* item);
+  void txtFileName_KeyPress();
+  void txtSerName_KeyPress();
+  void cmdFAutoSet_Click();
+  void cmdSAutoSet_Click();
+  void cmdSet_Click();
+
   void showRows();
   void takeRow(int row);
   /// Runs a rule on an edit box's text and shows the rows when they have changed.
   void apply(bool (*rule)(NamingList&, std::string_view), const QLineEdit& box);
-  void set();
 
   NamingList& list_;
   CardReading& reading_;

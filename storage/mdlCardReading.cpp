@@ -5,10 +5,10 @@
 #include <limits>
 
 #include "base/clsDesktop.h"
+#include "base/mdlBox.h"
+#include "base/mdlEncoding.h"
 #include "base/mdlGeneral.h"
-#include "base/mdlGuard.h"
 #include "base/mdlText.h"
-#include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
 
 namespace vk {
@@ -39,40 +39,27 @@ CardEntry entryOf(const CardFile& file) {
 
 }  // namespace
 
-CardFileOperation gConvertToCsv;
-
 std::string withoutExtension(const std::string& name) {
   return left(name, name.size() - std::min(name.size(), kExtensionLength));
 }
 
-bool openCard(CardReading& reading, const CardOpeningView& view) {
-  const FlagGuard busy(reading.busy);
-  reading.tab = kTabWave;
-  reading.lastClicked.clear();
-  reading.files.clear();
-  // The directory is copied: a yield lets other work through.
-  const std::vector<CardFile> directory = gCardDirectory;
-  if (!directory.empty() && view.showStatus) {
-    view.showStatus("Confirm Headder File", "Confirming header file of instrument.");
-  }
-  if (!directory.empty() && view.setProgress) view.setProgress(0);
-  reading.files.reserve(directory.size());
+std::vector<CardEntry> confirmHeaders(int32_t serial, const std::vector<CardFile>& directory,
+                                      const JobView& view) {
+  std::vector<CardEntry> files;
+  files.reserve(directory.size());
   for (const CardFile& file : directory) {
-    CardEntry& entry = reading.files.emplace_back(entryOf(file));
-    if (view.addRow) view.addRow(reading.files.size() - 1);
-    if (readHeader(reading.serial, withoutExtension(entry.rowText), entry.headerSize,
-                   reading.headerText, reading.header) == kCardOk) {
-      entry.seriesText = reading.header[kSeries];
+    CardEntry& entry = files.emplace_back(entryOf(file));
+    std::string text;
+    HeaderRecord header;
+    if (readHeader(serial, withoutExtension(entry.rowText), entry.headerSize, text, header) ==
+        kCardOk) {
+      entry.seriesText = header[kSeries];
+      entry.latin1 = !isUtf8(text);
     }
-    if (view.setProgress) {
-      view.setProgress(static_cast<double>(reading.files.size()) /
-                       static_cast<double>(directory.size()));
-    }
-    desktop().doEvents();
-    if (desktop().ending()) break;
+    view.tellProgress(static_cast<double>(files.size()) / static_cast<double>(directory.size()));
+    if (!view.yield()) break;
   }
-  if (view.closeStatus) view.closeStatus();
-  return !directory.empty();
+  return files;
 }
 
 std::vector<int32_t> divisionCounts() {
@@ -128,10 +115,8 @@ ControlNames lockedControls(int tab) {
   return names;
 }
 
-ControlNames unlockedControls(int tab) {
-  ControlNames names = lockedControls(tab);
-  if (!gConvertToCsv) std::erase(names, "cmdCSVSave");
-  return names;
+int percentOf(double fraction) {
+  return roundWhole(fraction * 100);
 }
 
 int32_t readHeader(int32_t serial, const std::string& name, int64_t size, std::string& text,
@@ -142,34 +127,30 @@ int32_t readHeader(int32_t serial, const std::string& name, int64_t size, std::s
       static_cast<int32_t>(std::clamp<int64_t>(size, 0, std::numeric_limits<int32_t>::max()));
   if (usbHFL(serial, name, asked, text) != kUsbOk || checkHeaderText(text) != 0 ||
       textToHeader(text, record) != 0) {
-    if (!desktop().ending()) {
-      desktop().messageBox("Header File Error", "Cannot read Header File.", BoxButtons::kOk,
-                           BoxIcon::kExclamation);
-    }
+    showBox("Header File Error", "Cannot read Header File.");
     return kCardFailed;
   }
   return kCardOk;
 }
 
 SelectedHeader clickCardRow(CardReading& reading, std::size_t row) {
-  if (reading.tab != kTabWave || reading.busy || row >= reading.files.size()) return {};
+  if (reading.tab != kTabWave || row >= reading.files.size()) return {};
   const std::string& name = reading.files[row].rowText;
   if (name == reading.lastClicked) return {};
   reading.lastClicked = name;
   return showSelectedHeader(reading, row);
 }
 
-SelectedHeader showSelectedHeader(CardReading& reading, std::size_t row) {
-  if (reading.showingHeader || row >= reading.files.size()) return {};
-  const FlagGuard showing(reading.showingHeader);
-  const std::string name = withoutExtension(reading.files[row].rowText);
-  const int64_t size = reading.files[row].headerSize;
-  if (size < kMinShownHeader) return {};
-  if (readHeader(reading.serial, name, size, reading.headerText, reading.header) != kCardOk &&
-      desktop().ending()) {
-    return {};
-  }
-  return {true, reading.headerText.substr(0, reading.headerText.find('\0'))};
+SelectedHeader showSelectedHeader(const CardReading& reading, std::size_t row) {
+  if (row >= reading.files.size()) return {};
+  const CardEntry& file = reading.files[row];
+  if (file.headerSize < kMinShownHeader) return {};
+  std::string text;
+  HeaderRecord header;
+  const int32_t result =
+      readHeader(reading.serial, withoutExtension(file.rowText), file.headerSize, text, header);
+  if (result != kCardOk && desktop().ending()) return {};
+  return {true, text.substr(0, text.find('\0'))};
 }
 
 }  // namespace vk

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Reading recordings off a box's card: the list of its files, their headers, and the transfer of
-// data files in blocks of 65536 bytes, to show them or to save them as a .dat and .hed pair.
+// The recordings on a box's card as the card window shows them: the list of its files, their
+// headers, tabs and controls. storage/mdlCardTransfer.h fetches them, storage/mdlCardSaving.h saves
+// the checked ones.
 //
 // Sizes are bytes, rows count from 0. Results are 0 for success and -1 for a failure that has been
 // shown; a program that is ending makes every operation stop at its next yield, with nothing shown.
@@ -10,20 +11,18 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/mdlJob.h"
+#include "link/mdlCardDirectory.h"
 #include "storage/mdlCsvText.h"
 #include "storage/mdlHedDataWork.h"
 
 namespace vk {
 
 enum CardTab : int { kTabWave = 1, kTabBinary = 2, kTabCsv = 3 };
-/// What a data file is fetched for.
-enum ReadKind : int { kReadToSave = 0, kReadForCsv = 1, kReadToView = 2 };
-enum SaveKind : int { kSaveBinary = 0, kSaveCsv = 1 };
 
 inline constexpr int32_t kCardOk = 0;
 inline constexpr int32_t kCardFailed = -1;
@@ -49,18 +48,9 @@ struct CardEntry {
   std::string seriesText;      ///< hidden column "Series"; empty after an unreadable header
   int64_t size = 0;
   int64_t headerSize = 0;
+  bool latin1 = false;       ///< the header's own bytes are not valid UTF-8
   bool nameChanged = false;  ///< taken into the naming dialog
   bool checked = false;      ///< the row's check box, on the saving tabs
-};
-
-/// How an operation shows itself. Empty functions are skipped; percent and text only come when
-/// they have changed.
-struct CardReadingView {
-  std::function<void(int percent)> setPercent;                  ///< pbrFile
-  std::function<void(const std::string& text)> setPercentText;  ///< lblPrgCnt
-  std::function<void(const std::string& text)> setMessage;      ///< lblPrg
-  /// A line for txtDelFile, with its CR LF: a file to be deleted at exit.
-  std::function<void(const std::string& line)> appendTempFile;
 };
 
 /// The state of the card window. The window carries its controls in (tab, folder, division, check
@@ -69,18 +59,10 @@ struct CardReading {
   int32_t serial = 0;
   int tab = kTabWave;
   std::vector<CardEntry> files;       ///< in the order of the card's directory
-  std::string headerText;             ///< the header read last, byte for byte
-  HeaderRecord header;                ///< the same, taken apart
-  std::string temporaryStem;          ///< path without extension of the last temporary pair
   std::string lastClicked;            ///< name of the row clicked last on the wave tab
   std::array<std::string, 2> folder;  ///< txtFolder(0) binary, txtFolder(1) CSV
   CsvOptions csv;                     ///< chkDivision, cmbDivision, optCoeff
   std::string temporaryFolder;        ///< the program's tmp folder
-  CardReadingView view;
-  bool showingHeader = false;
-  /// An exchange that yields is running: rows do not react to clicks, no second transfer starts,
-  /// and the window is not to be closed.
-  bool busy = false;
 };
 
 /// A shown name without its last four characters.
@@ -88,18 +70,10 @@ std::string withoutExtension(const std::string& name);
 
 // --- opening --------------------------------------------------------------------------------
 
-/// The window's part in opening.
-struct CardOpeningView {
-  std::function<void(const std::string& title, const std::string& text)> showStatus;
-  std::function<void(double fraction)> setProgress;
-  std::function<void(std::size_t row)> addRow;  ///< the row without its series
-  std::function<void()> closeStatus;
-};
-
-/// Fills `files` from gCardDirectory and confirms each header; an unreadable one is shown and
-/// keeps its row. False with no file on the card: the window then switches emptyCardControls off
-/// and skips the division list and the folders.
-bool openCard(CardReading& reading, const CardOpeningView& view);
+/// The rows of a directory, each header confirmed; an unreadable one is shown and keeps its row.
+/// With none the window switches emptyCardControls off and skips the division list and folders.
+std::vector<CardEntry> confirmHeaders(int32_t serial, const std::vector<CardFile>& directory,
+                                      const JobView& view);
 /// 5000, 10000 to 65000; the first is selected.
 std::vector<int32_t> divisionCounts();
 /// Makes the application's own folder the default folder when that does not exist. Shown in both
@@ -126,10 +100,11 @@ bool anyRowChecked(const CardReading& reading);
 using ControlNames = std::vector<std::string_view>;
 /// Off for the window's life when the card holds no data file.
 const ControlNames& emptyCardControls();
-/// Off during an operation.
+/// Off during an operation, and on again after it.
 ControlNames lockedControls(int tab);
-/// On again after it: the locked ones, without cmdCSVSave as long as nothing converts.
-ControlNames unlockedControls(int tab);
+
+/// What pbrFile and lblPrgCnt show of a job's progress.
+int percentOf(double fraction);
 
 // --- headers --------------------------------------------------------------------------------
 
@@ -143,27 +118,7 @@ struct SelectedHeader {
 };
 /// A click on a row; acts on the wave tab only, and only when the name differs from the last one.
 SelectedHeader clickCardRow(CardReading& reading, std::size_t row);
-/// The row's header, unless one is being shown or it is below kMinShownHeader.
-SelectedHeader showSelectedHeader(CardReading& reading, std::size_t row);
-
-// --- transfer -------------------------------------------------------------------------------
-
-/// Fetches one file: for kReadToSave into folder[0] under the row's name, else into the temporary
-/// folder under a stem from the clock.
-[[nodiscard]] int32_t readDataFile(CardReading& reading, ReadKind kind, std::size_t row);
-
-/// What cmdRun does between locking and unlocking: fetches the file and fills waveOpenRequest. On
-/// success the window unlocks, yields, sets waveRequestSet and closes; on a failure it stays open.
-[[nodiscard]] int32_t readForWaveView(CardReading& reading, std::size_t row);
-
-/// Works on one checked row; 0 for success.
-using CardFileOperation = std::function<int32_t(CardReading& reading, std::size_t row)>;
-/// Turns one row into CSV; set at start-up by the conversion. While it is empty saving as CSV is
-/// not available.
-extern CardFileOperation gConvertToCsv;
-
-/// Saves the checked rows, one by one: overwrite question, operation, and after a failure the
-/// question whether to go on. kSaveCsv runs gConvertToCsv.
-void saveCheckedFiles(CardReading& reading, SaveKind kind);
+/// The row's header, unless it is below kMinShownHeader.
+SelectedHeader showSelectedHeader(const CardReading& reading, std::size_t row);
 
 }  // namespace vk

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
-// The transfer of one recording. The data file is streamed: one block is in memory at a time.
+#include "storage/mdlCardTransfer.h"
+
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <tuple>
 
 #include "base/clsDesktop.h"
+#include "base/mdlEncoding.h"
 #include "base/mdlFile.h"
 #include "base/mdlGeneral.h"
 #include "base/mdlGuard.h"
 #include "base/mdlText.h"
 #include "link/mdlUSBCommand.h"
-#include "storage/mdlCardReading.h"
 #include "storage/mdlFileBox.h"
-#include "storage/mdlWaveOpenRequest.h"
+#include "storage/mdlTempFiles.h"
 
 namespace vk {
 
@@ -32,22 +35,22 @@ std::string clockStem(const DateTime& time) {
          two(time.hour) + "_" + two(time.minute) + "_" + two(time.second);
 }
 
+/// The data file is streamed: one block is in memory at a time.
 class Transfer {
  public:
-  Transfer(CardReading& reading, ReadKind kind, std::size_t row)
-      : reading_(reading), kind_(kind), file_(reading.files[row]) {}
+  Transfer(const CardFetch& what, const JobView& view) : what_(what), view_(view) {}
 
-  int32_t run() {
-    desktop().setHourglass(true);
-    const bool done = start() && fetchHeader() && fetchData() && writeHeader();
-    if (done) message(file_.cardFileName + "  reading ended.");
-    if (done && yield()) {
-      desktop().setHourglass(false);
-      return kCardOk;
+  CardFetched run() {
+    {
+      const HourglassGuard hourglass;
+      const bool done = start() && fetchHeader() && fetchData() && writeHeader() && nameBoth();
+      if (done) view_.tell(what_.file.cardFileName + "  reading ended.");
+      if (done && yield()) fetched_.result = kCardOk;
     }
-    desktop().setHourglass(false);
-    for (int i = 0; i < kYieldsAfterFailure && yield(); ++i) continue;
-    return kCardFailed;
+    if (fetched_.result != kCardOk) {
+      for (int i = 0; i < kYieldsAfterFailure && !desktop().ending(); ++i) desktop().doEvents();
+    }
+    return fetched_;
   }
 
  private:
@@ -55,51 +58,45 @@ class Transfer {
   bool fetchHeader();
   bool chooseTarget();
   bool fetchData();
-  bool fetchBlocks(Block& block);
-  bool fetchTail(Block& block);
+  bool fetchBlocks();
+  bool readNext();
+  bool store(std::size_t count);
+  void dropRest();
   bool keepPartialData();
   bool writeHeader();
+  bool nameBoth();
 
-  static bool yield() {
-    if (desktop().ending()) return false;
-    desktop().doEvents();
-    return !desktop().ending();
+  [[nodiscard]] bool yield() const { return view_.yield(); }
+  void progressOfBlocks() const {
+    const int64_t blocks = what_.file.size / kBlockBytes;
+    const int64_t block = read_ / kBlockBytes - 1;
+    if (block < 0) return;
+    view_.tellProgress(static_cast<double>(block) / static_cast<double>(blocks));
   }
-  void message(const std::string& text) const {
-    if (reading_.view.setMessage) reading_.view.setMessage(text);
-  }
-  void percent(int32_t number) {
-    if (number == percentShown_) return;
-    percentShown_ = number;
-    if (reading_.view.setPercent) reading_.view.setPercent(number);
-    if (reading_.view.setPercentText) reading_.view.setPercentText(textOf(number) + "%");
-  }
-  void listTemporary(const std::string& path) const {
-    if (kind_ == kReadToSave || !reading_.view.appendTempFile) return;
-    reading_.view.appendTempFile(path + "\r\n");
-  }
-  std::string dataPath() const { return target_ + ".dat"; }
-  std::string headerPath() const { return target_ + ".hed"; }
+  std::string dataPath() const { return fetched_.stem + ".dat"; }
+  std::string headerPath() const { return fetched_.stem + ".hed"; }
 
-  CardReading& reading_;
-  const ReadKind kind_;
-  const CardEntry file_;
-  std::string target_;
+  const CardFetch what_;
+  const JobView& view_;
+  CardFetched fetched_;
+  std::string headerText_;
+  std::unique_ptr<Block> block_;
+  int64_t read_ = 0;  ///< bytes of the file that the box has sent
   FileWriter data_;
-  int32_t percentShown_ = -1;
+  FileWriter header_;
 };
 
 bool Transfer::start() {
   if (!yield()) return false;
-  percent(0);
+  view_.tellProgress(0);
   if (!yield()) return false;
-  message(file_.cardFileName + "  Reading data file from the VK-480Q...");
+  view_.tell(what_.file.cardFileName + "  Reading data file from the VK-480Q...");
   return yield();
 }
 
 bool Transfer::fetchHeader() {
-  if (readHeader(reading_.serial, file_.cardFileName + ".HED", file_.headerSize,
-                 reading_.headerText, reading_.header) == kCardOk) {
+  if (readHeader(what_.serial, what_.file.cardFileName + ".HED", what_.file.headerSize, headerText_,
+                 fetched_.header) == kCardOk) {
     return true;
   }
   showBox("Header File Error", "The contents of header file are not right.");
@@ -107,103 +104,130 @@ bool Transfer::fetchHeader() {
 }
 
 bool Transfer::chooseTarget() {
-  if (kind_ == kReadToSave) {
-    const std::string stem = withoutExtension(file_.saveFileName);
-    target_ = withBackslash(reading_.folder[0]) + stem;
+  if (what_.kind == kReadToSave) {
+    const std::string stem = withoutExtension(what_.file.saveFileName);
+    fetched_.stem = withBackslash(what_.folder) + stem;
     return fileDone(nameStaysInFolder(stem) ? kFileOk : kFileBadName, dataPath());
   }
   const std::string stem = clockStem(desktop().now());
-  if (reading_.temporaryFolder.empty()) return fileDone(kFileOther, stem + ".dat");
-  target_ = withBackslash(reading_.temporaryFolder) + stem;
-  reading_.temporaryStem = target_;
+  if (what_.folder.empty()) return fileDone(kFileOther, stem + ".dat");
+  fetched_.stem = withBackslash(what_.folder) + stem;
   return true;
 }
 
 bool Transfer::fetchData() {
   if (!chooseTarget() || !fileDone(data_.open(dataPath()), dataPath())) return false;
-  if (usbDAT(reading_.serial, file_.cardFileName) != kUsbOk) {
+  if (usbDAT(what_.serial, what_.file.cardFileName) != kUsbOk) {
     showBox("Data File Error", "Cannot read Data file.");
     return false;
   }
-  const auto block = std::make_unique<Block>();
-  if (!fetchBlocks(*block) || !fetchTail(*block)) return false;
-  if (!fileDone(data_.commit(), dataPath())) return false;
-  listTemporary(dataPath());
-  return true;
+  block_ = std::make_unique<Block>();
+  return fetchBlocks() && fileDone(data_.prepare(), dataPath());
 }
 
-bool Transfer::fetchBlocks(Block& block) {
-  const int64_t blocks = file_.size / kBlockBytes;
-  for (int64_t i = 0; i < blocks; ++i) {
-    if (usbReadBlock(reading_.serial, block.bytes.data(), kBlockBytes) < 1) {
-      return keepPartialData();
-    }
-    if (!fileDone(data_.write(block.bytes.data(), kBlockBytes), dataPath())) return false;
-    percent(roundWhole(static_cast<double>(i) / static_cast<double>(blocks) * 100));
-    if (!yield()) return false;
+bool Transfer::fetchBlocks() {
+  while (read_ < what_.file.size) {
+    const int64_t rest = what_.file.size - read_;
+    if (!readNext()) return keepPartialData();
+    if (!store(static_cast<std::size_t>(std::min<int64_t>(rest, kBlockBytes)))) return false;
+    if (rest < kBlockBytes) continue;
+    progressOfBlocks();
+    if (yield()) continue;
+    dropRest();
+    return false;
   }
   return true;
 }
 
-bool Transfer::fetchTail(Block& block) {
-  const int64_t rest = file_.size % kBlockBytes;
-  if (rest <= 0) return true;
-  const int64_t asked = (rest + kTransferUnit - 1) / kTransferUnit * kTransferUnit;
-  // A count of 0 passes: what the buffer holds then is written.
-  if (usbReadBlock(reading_.serial, block.bytes.data(), static_cast<int32_t>(asked)) < 0) {
-    return keepPartialData();
+/// The next block, or what is left for the last one. False when the box did not send it.
+bool Transfer::readNext() {
+  const int64_t rest = what_.file.size - read_;
+  const bool whole = rest >= kBlockBytes;
+  const int64_t asked =
+      whole ? kBlockBytes : (rest + kTransferUnit - 1) / kTransferUnit * kTransferUnit;
+  const int32_t count =
+      usbReadBlock(what_.serial, block_->bytes.data(), static_cast<int32_t>(asked));
+  // Of the last one a count of 0 passes: what the buffer holds then is written.
+  if (count < (whole ? 1 : 0)) return false;
+  read_ += std::min(rest, asked);
+  return true;
+}
+
+bool Transfer::store(std::size_t count) {
+  const int32_t error = data_.write(block_->bytes.data(), count);
+  if (error != kFileOk) dropRest();
+  return fileDone(error, dataPath());
+}
+
+/// Reads to the end of the file what nobody wants any more.
+void Transfer::dropRest() {
+  data_.discard();  // a full disk has room again at once
+  if (read_ < what_.file.size)
+    view_.tell(what_.file.cardFileName + "  is being read to its end...");
+  while (read_ < what_.file.size && !desktop().ending() && readNext()) {
+    progressOfBlocks();
+    std::ignore = yield();  // stopped or not, the rest has to come
   }
-  return fileDone(data_.write(block.bytes.data(), static_cast<std::size_t>(rest)), dataPath());
 }
 
 /// What came of a broken transfer stays under its name.
 bool Transfer::keepPartialData() {
   // Saving asks the user how to go on; the wave view has the label only.
-  if (kind_ == kReadToView) message("Communication Error has occurred.");
-  if (!desktop().ending()) static_cast<void>(fileDone(data_.commit(), dataPath()));
+  if (what_.kind == kReadToView) view_.tell("Communication Error has occurred.");
+  if (!desktop().ending()) std::ignore = fileDone(data_.commit(), dataPath());
   return false;
 }
 
 bool Transfer::writeHeader() {
-  std::string text = reading_.headerText;
-  if (kind_ == kReadToSave) {
+  std::string text = headerText_;
+  if (what_.kind == kReadToSave) {
+    HeaderRecord header = fetched_.header;
     // The column is empty when the header could not be read at opening: nothing was edited then.
-    if (!file_.seriesText.empty()) reading_.header[kSeries] = file_.seriesText;
-    text = headerToText(reading_.header, headerPath());
+    if (!what_.file.seriesText.empty()) header[kSeries] = what_.file.seriesText;
+    // The file's own name stands in it, in the encoding of the rest where that has its letters.
+    const bool latin1 = !isUtf8(headerText_);
+    text =
+        headerToText(header, latin1 ? toLatin1(headerPath()).value_or(headerPath()) : headerPath());
   }
-  percent(100);
-  if (!yield() || !fileDone(writeTextFile(headerPath(), text), headerPath())) return false;
-  listTemporary(headerPath());
-  if (kind_ == kReadToSave) {
+  view_.tellProgress(1);
+  return yield() && fileDone(header_.open(headerPath()), headerPath()) &&
+         fileDone(header_.write(text + "\r\n"), headerPath()) &&
+         fileDone(header_.prepare(), headerPath());
+}
+
+/// Right one behind the other, so that hardly a crash leaves a new file beside an old one.
+bool Transfer::nameBoth() {
+  // It is flushed; the header's commit flushes both names.
+  if (!fileDone(data_.commitUnflushed(), dataPath())) return false;
+  if (!fileDone(header_.commit(), headerPath())) return false;
+  if (what_.kind == kReadToSave) {
     removeOtherSpellings(dataPath());
     removeOtherSpellings(headerPath());
+  } else {
+    gTempFileList += dataPath() + "\r\n" + headerPath() + "\r\n";
   }
   return true;
 }
 
 }  // namespace
 
-int32_t readDataFile(CardReading& reading, ReadKind kind, std::size_t row) {
-  if (row >= reading.files.size() || reading.busy) return kCardFailed;
-  const FlagGuard busy(reading.busy);
-  return Transfer(reading, kind, row).run();
+CardFetched readDataFile(const CardFetch& what, const JobView& view) {
+  return Transfer(what, view).run();
 }
 
-int32_t readForWaveView(CardReading& reading, std::size_t row) {
-  if (readDataFile(reading, kReadToView, row) != kCardOk) return kCardFailed;
-  resetWaveOpenRequest();
-  const HeaderRecord& header = reading.header;
-  const int32_t numSeries = toWhole(header[kNumSeries]);
+WaveOpenRequest waveRequestOf(const CardFetched& fetched) {
+  const int32_t numSeries = toWhole(fetched.header[kNumSeries]);
   std::string channels;
   for (int32_t channel = 1; channel <= numSeries; ++channel) channels += textOf(channel) + ",";
-  waveOpenRequest.fileName[0] = reading.temporaryStem;
-  waveOpenRequest.channelList[0] = dropLastComma(channels);
-  waveOpenRequest.seriesInFile[0] = numSeries;
-  waveOpenRequest.firstDataNumber = 1;
-  waveOpenRequest.lastDataNumber = toWhole(header[kNumSamps]);
-  waveOpenRequest.rate = toWhole(header[kRate]);
-  waveOpenRequest.startStamp = header[kDate] + "," + header[kTime];
-  return kCardOk;
+  WaveOpenRequest request;
+  request.fileName[0] = fetched.stem;
+  request.channelList[0] = dropLastComma(channels);
+  request.seriesInFile[0] = numSeries;
+  request.firstDataNumber = 1;
+  request.lastDataNumber = toWhole(fetched.header[kNumSamps]);
+  request.rate = toWhole(fetched.header[kRate]);
+  request.startStamp = fetched.header[kDate] + "," + fetched.header[kTime];
+  return request;
 }
 
 }  // namespace vk

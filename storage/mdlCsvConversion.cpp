@@ -10,12 +10,11 @@
 #include <optional>
 #include <string_view>
 #include <system_error>
-#include <utility>
+#include <tuple>
 
 #include "base/clsDesktop.h"
 #include "base/mdlFile.h"
 #include "base/mdlGeneral.h"
-#include "base/mdlGuard.h"
 #include "base/mdlText.h"
 #include "storage/mdlFileBox.h"
 #include "storage/mdlSampleStream.h"
@@ -97,7 +96,7 @@ class Output {
 class Conversion {
  public:
   /// Throws TypeMismatch when the header holds something that cannot be used.
-  Conversion(const CsvJob& job, const CsvView& view)
+  Conversion(const CsvJob& job, const JobView& view)
       : job_(job),
         view_(view),
         samples_(toWhole(job.header[kNumSamps])),
@@ -147,17 +146,15 @@ class Conversion {
     return std::max<int64_t>(int64_t{marks_[raised_]} + 1, lastRaised_ + 1);
   }
   bool yield() {
-    desktop().doEvents();
+    const bool goOn = view_.yield();
     lastYield_ = desktop().milliseconds();
-    canceled_ = view_.stopped && view_.stopped();
-    return !desktop().ending() && !canceled_;
+    canceled_ = !goOn && !desktop().ending();
+    return goOn;
   }
-  void message(const char* text) const {
-    if (view_.setMessage) view_.setMessage(name_ + text);
-  }
+  void message(const char* text) const { view_.tell(name_ + text); }
 
   const CsvJob& job_;
-  const CsvView& view_;
+  const JobView& view_;
   const int64_t samples_;
   const int64_t count_;
   CsvLines lines_;
@@ -223,32 +220,9 @@ bool Conversion::writeLines(int64_t stop) {
 
 bool Conversion::raiseMark() {
   lastRaised_ = sample_ - 1;
-  const auto percent = static_cast<int>(++raised_) * 100 / kMarks;
-  if (view_.setPercent) view_.setPercent(percent);
-  if (view_.setPercentText) view_.setPercentText(textOf(percent) + "%");
+  view_.tellProgress(static_cast<double>(++raised_) / kMarks);
   message("  is being converted...");
   return yield();
-}
-
-/// Converts what readDataFile left in the temporary folder.
-int32_t convertFetched(CardReading& reading, std::size_t row) {
-  const FlagGuard busy(reading.busy);
-  desktop().setHourglass(true);
-  if (reading.view.setPercent) reading.view.setPercent(0);
-  if (reading.view.setPercentText) reading.view.setPercentText("0%");
-  CsvJob job;
-  job.stem = withoutExtension(reading.files[row].rowText);
-  if (readHeader(reading.serial, job.stem + ".HED", reading.files[row].headerSize,
-                 reading.headerText, reading.header) != kCardOk) {
-    showBadHeader();
-    return kCardFailed;
-  }
-  job.source = reading.temporaryStem + ".dat";
-  job.header = reading.header;
-  job.folder = reading.folder[1];
-  job.options = reading.csv;
-  job.askFirst = reading.csv.division;
-  return convertRecording(job, {reading.view, {}});
 }
 
 }  // namespace
@@ -257,25 +231,15 @@ void showBadHeader() {
   showBox("Header File Error", "The contents of header file are not right.");
 }
 
-int32_t convertRecording(const CsvJob& job, const CsvView& view) {
+int32_t convertRecording(const CsvJob& job, const JobView& view) {
   try {
     return Conversion(job, view).run();
   } catch (const TypeMismatch&) {
     showBadHeader();
   } catch (const std::bad_alloc&) {
-    static_cast<void>(fileDone(kFileNoMemory, job.source));
+    std::ignore = fileDone(kFileNoMemory, job.source);
   }
   return kCardFailed;
-}
-
-int32_t convertToCsv(CardReading& reading, std::size_t row) {
-  if (row >= reading.files.size() || reading.busy) return kCardFailed;
-  desktop().setHourglass(true);
-  desktop().doEvents();
-  const bool done = !desktop().ending() && readDataFile(reading, kReadForCsv, row) == kCardOk &&
-                    convertFetched(reading, row) == kCardOk;
-  desktop().setHourglass(false);
-  return done ? kCardOk : kCardFailed;
 }
 
 }  // namespace vk

@@ -9,17 +9,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <string>
 
 #include "storage/mdlCardReading.h"
 
 namespace vk {
-
-struct CsvView : CardReadingView {
-  /// Asked after every yield: the conversion is to end. Empty means never.
-  std::function<bool()> stopped;
-};
 
 /// One recording and where it goes.
 struct CsvJob {
@@ -36,15 +30,9 @@ struct CsvJob {
 /// The user did not want it: "No" to overwriting, or stopped.
 inline constexpr int32_t kCsvCanceled = -2;
 
-/// kCardOk, kCardFailed or kCsvCanceled. An exact multiple of the division count ends with a file
-/// of head only.
-[[nodiscard]] int32_t convertRecording(const CsvJob& job, const CsvView& view);
-
-/// kCardOk or kCardFailed. The conversion of the card window, to be set as gConvertToCsv: fetches
-/// the row into the temporary folder and converts it. With division on every file is numbered,
-/// however short the recording, and the first is asked about; the plain name has been asked about
-/// before.
-[[nodiscard]] int32_t convertToCsv(CardReading& reading, std::size_t row);
+/// kCardOk, kCardFailed or kCsvCanceled, which a view that stops it gives too. An exact multiple of
+/// the division count ends with a file of head only.
+[[nodiscard]] int32_t convertRecording(const CsvJob& job, const JobView& view);
 
 /// The box for a header that cannot be used.
 void showBadHeader();

@@ -9,10 +9,13 @@
 #include <filesystem>
 #include <map>
 #include <system_error>
+#include <utility>
 
 #include "base/clsDesktop.h"
+#include "base/mdlBox.h"
 #include "base/mdlFile.h"
 #include "base/mdlGeneral.h"
+#include "base/mdlGuard.h"
 #include "base/mdlText.h"
 
 namespace vk {
@@ -78,7 +81,7 @@ bool readHeaderFile(const std::string& folder, const std::string& dataFile, Head
          textToHeader(text, header) == 0;
 }
 
-int32_t convertFile(const CsvFolder& work, const CardEntry& file) {
+int32_t convertFile(const CsvFolder& work, const CardEntry& file, const JobView& view) {
   CsvJob job;
   if (!readHeaderFile(work.folder[0], file.rowText, job.header)) {
     showBadHeader();
@@ -90,7 +93,7 @@ int32_t convertFile(const CsvFolder& work, const CardEntry& file) {
   job.options = work.options;
   if (toWhole(job.header[kNumSamps]) <= work.options.divisionCount) job.options.division = false;
   job.askFirst = true;
-  return convertRecording(job, work.view);
+  return convertRecording(job, view);
 }
 
 }  // namespace
@@ -117,37 +120,47 @@ std::vector<CardEntry> recordingsIn(const std::string& folder) {
   return files;
 }
 
-bool readyToConvert(const CsvFolder& work) {
-  if (std::none_of(work.files.begin(), work.files.end(),
-                   [](const CardEntry& file) { return file.checked; })) {
-    return false;
+void listFolder(CsvFolder& work, const std::string& folder) {
+  std::error_code error;
+  const bool same = fs::equivalent(folder, work.folder[0], error);
+  const std::vector<CardEntry> before = std::move(work.files);
+  work.folder[0] = folder;
+  work.files = recordingsIn(folder);
+  if (!same) return;
+  for (CardEntry& file : work.files) {
+    file.checked = std::any_of(before.begin(), before.end(), [&](const CardEntry& old) {
+      return old.checked && old.rowText == file.rowText;
+    });
   }
-  if (folderMissing(work.folder[1]) == 0) return true;
-  desktop().messageBox("File Error", "Folder does not exist.", BoxButtons::kOk,
-                       BoxIcon::kExclamation);
-  return false;
 }
 
-int32_t convertCheckedFiles(const CsvFolder& work) {
-  desktop().setHourglass(true);
-  const auto showPercent = [&work](const char* text) {
-    if (work.view.setPercent) work.view.setPercent(0);
-    if (work.view.setPercentText) work.view.setPercentText(text);
-  };
+bool readyToConvert(const CsvFolder& work, const JobView& view) {
+  const bool any = std::any_of(work.files.begin(), work.files.end(),
+                               [](const CardEntry& file) { return file.checked; });
+  const std::string& needed = work.folder[any ? 1 : 0];
+  if (!any && !work.typed) return false;
+  if (folderMissing(needed) != 0) {
+    showBox("File Error", "Folder does not exist.");
+    return false;
+  }
+  if (!any) view.tell("check file.");
+  return any;
+}
+
+int32_t convertCheckedFiles(const CsvFolder& work, const JobView& view) {
+  const HourglassGuard hourglass;
   int32_t result = kCardOk;
   for (const CardEntry& file : work.files) {
     if (!file.checked) continue;
-    if (desktop().ending() || (work.view.stopped && work.view.stopped())) result = kCsvCanceled;
+    if (desktop().ending() || (view.stopped && view.stopped())) result = kCsvCanceled;
     if (result != kCardOk) break;
-    showPercent("0%");
-    result = convertFile(work, file);
+    view.tellProgress(0);
+    result = convertFile(work, file, view);
     if (result != kCardOk) break;
   }
-  desktop().setHourglass(false);
-  if (result == kCardOk) return result;
+  if (result == kCardOk) return kCardOk;
   // What is shown still says that a file is being converted.
-  showPercent("");
-  if (work.view.setMessage) work.view.setMessage(result == kCsvCanceled ? "canceled." : "");
+  view.tell(result == kCsvCanceled ? "canceled." : "");
   return kCardFailed;
 }
 

@@ -17,16 +17,20 @@ struct CsvFolder {
   std::array<std::string, 2> folder;  ///< txtFolder(0) to read from, txtFolder(1) to save in
   std::vector<CardEntry> files;       ///< rows of the list; their name is rowText
   CsvOptions options;
-  CsvView view;
+  bool typed = false;  ///< the list is of a folder that was typed in
 };
 
 /// Files ending in "dat" or "DAT", by name. One without its header ends the list with a row that
 /// has no header size.
 std::vector<CardEntry> recordingsIn(const std::string& folder);
-/// There is something to convert; a folder to save in that does not exist is shown.
-bool readyToConvert(const CsvFolder& work);
+/// Lists the folder to read from. Its rows keep their marks when it is the folder listed before,
+/// spelled otherwise; a new one has none.
+void listFolder(CsvFolder& work, const std::string& folder);
+/// There is something to convert. Else a missing folder is shown, or that nothing is checked in a
+/// typed one: whoever types a folder and saves at once has seen no list of it.
+bool readyToConvert(const CsvFolder& work, const JobView& view);
 /// The checked rows in order; the first failure ends the work. A recording is divided only when it
-/// is longer than the division count.
-[[nodiscard]] int32_t convertCheckedFiles(const CsvFolder& work);
+/// is longer than the division count. After a failure the window empties its progress.
+[[nodiscard]] int32_t convertCheckedFiles(const CsvFolder& work, const JobView& view);
 
 }  // namespace vk

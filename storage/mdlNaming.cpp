@@ -2,8 +2,10 @@
 #include "storage/mdlNaming.h"
 
 #include <algorithm>
+#include <optional>
 
-#include "base/clsDesktop.h"
+#include "base/mdlBox.h"
+#include "base/mdlEncoding.h"
 #include "base/mdlGeneral.h"
 #include "base/mdlText.h"
 
@@ -14,9 +16,16 @@ namespace {
 constexpr std::string_view kForbidden = "\\/:*?\"<>|";
 constexpr std::string_view kExtension = ".DAT";
 
+constexpr const char* kInvalidValue = "Invalid　value";  // with an ideographic space
+
 int32_t refuseSeries(const char* text) {
-  desktop().messageBox("SERIES Error", text, BoxButtons::kOk, BoxIcon::kExclamation);
+  showBox("SERIES Error", text);
   return 1;
+}
+
+/// The text as it stands in the row's header; empty for one that cannot stand there.
+std::optional<std::string> inHeader(const NamingRow& row, std::string_view text) {
+  return row.latin1 ? toLatin1(text) : std::string(text);
 }
 
 }  // namespace
@@ -30,7 +39,7 @@ int32_t checkSeriesText(std::string_view text, int32_t commas) {
     return refuseSeries("Different number of series. (Specify series name by comma space.)");
   }
   for (int32_t i = 1; i <= commas + 1; ++i) {
-    if (trim(listField(text, i)).empty()) return refuseSeries("Invalid　value");
+    if (trim(listField(text, i)).empty()) return refuseSeries(kInvalidValue);
   }
   return 0;
 }
@@ -40,7 +49,7 @@ bool prepareNaming(CardReading& reading, NamingList& list) {
   list = {};
   for (CardEntry& file : reading.files) {
     file.nameChanged = file.checked;
-    if (file.checked) list.rows.push_back({file.saveFileName, file.seriesText});
+    if (file.checked) list.rows.push_back({file.saveFileName, file.seriesText, file.latin1});
   }
   return !list.rows.front().series.empty();
 }
@@ -73,7 +82,9 @@ bool enterFileName(NamingList& list, std::string_view text) {
 bool enterSeriesText(NamingList& list, std::string_view text) {
   if (list.selected >= list.seriesCommas.size()) return false;
   if (checkSeriesText(text, list.seriesCommas[list.selected]) != 0) return false;
-  list.rows[list.selected].series = text;
+  const auto series = inHeader(list.rows[list.selected], text);
+  if (!series) return refuseSeries(kInvalidValue) == 0;
+  list.rows[list.selected].series = *series;
   return true;
 }
 
@@ -89,7 +100,11 @@ bool setAllSeries(NamingList& list, std::string_view text) {
   if (list.seriesCommas.empty() || checkSeriesText(text, list.seriesCommas.front()) != 0) {
     return false;
   }
-  for (NamingRow& row : list.rows) row.series = text;
+  if (!std::all_of(list.rows.begin(), list.rows.end(),
+                   [&](const NamingRow& row) { return inHeader(row, text).has_value(); })) {
+    return refuseSeries(kInvalidValue) == 0;
+  }
+  for (NamingRow& row : list.rows) row.series = *inHeader(row, text);
   return true;
 }
 

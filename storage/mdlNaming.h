@@ -20,6 +20,7 @@ inline constexpr std::array<CardColumn, 2> kNamingColumns{
 struct NamingRow {
   std::string fileName;
   std::string series;
+  bool latin1 = false;  ///< what is typed goes into a header in Latin-1
   bool operator==(const NamingRow&) const = default;
 };
 
@@ -54,7 +55,7 @@ NamingEdit selectNamingRow(NamingList& list, std::size_t row);
 // Each returns true when rows have changed.
 /// Enter in txtFileName; a bad name is dropped silently.
 bool enterFileName(NamingList& list, std::string_view text);
-/// Enter in txtSerName.
+/// Enter in txtSerName. A letter that the row's header cannot take is refused like an empty item.
 bool enterSeriesText(NamingList& list, std::string_view text);
 /// cmdFAutoSet: the text in front of every old name.
 bool setAllFileNames(NamingList& list, std::string_view prefix);

@@ -89,8 +89,8 @@ TEST_F(ExchangeTest, OneInsideAnotherLeavesTheFlagUp) {
 
 TEST_F(ExchangeTest, ATimeoutGivesBackTheOneBefore) {
   {
-    const ReadTimeout upgrade(kTimeoutUpgrade);
-    const ReadTimeout check(kTimeoutCheck);
+    const ReadTimeoutGuard upgrade(kTimeoutUpgrade);
+    const ReadTimeoutGuard check(kTimeoutCheck);
   }
   EXPECT_EQ(library().takeTranscript(), "timeout(40)\ntimeout(60)\ntimeout(40)\ntimeout(7)\n");
 }

@@ -59,10 +59,10 @@ TEST_F(BlockTest, DirectoryComesInThirtyTwoBlocks) {
   card.entry("WAVE    HED", 512).entry("WAVE    DAT", 131072, vktest::CardImage::date(2026, 1, 5));
   serve(card.whole());
   std::string progress, expected;
-  gLinkEvents.progress = [&](double fraction) {
+  const auto note = [&](double fraction) {
     progress += std::to_string(desk.yieldCount) + " " + std::to_string(fraction) + "\n";
   };
-  EXPECT_EQ(usbRTD(kSerial), 0);
+  EXPECT_EQ(usbRTD(kSerial, {{}, note, {}}), 0);
   EXPECT_EQ(library().takeTranscript(), reads(32));
   for (int i = 0; i < 32; ++i) {
     expected += std::to_string(i) + " " + std::to_string(i / 31.0) + "\n";
@@ -114,6 +114,14 @@ TEST_F(BlockTest, DirectoryReadingEndsWithTheProgram) {
   desk.yields = {[] { EXPECT_FALSE(pollStatus()); }, [this] { desk.endProgram(); }};
   EXPECT_NE(usbRTD(kSerial), 0);
   EXPECT_EQ(library().takeTranscript(), reads(2));
+}
+
+TEST_F(BlockTest, AStoppedDirectoryReadingStillReadsAllBlocks) {
+  serve(vktest::CardImage{}.whole());
+  bool stop = false;
+  desk.yields = {[] {}, [&] { stop = true; }, [&] { stop = false; }};
+  EXPECT_EQ(usbRTD(kSerial, {{}, {}, [&] { return stop; }}), kUsbNoReply);
+  EXPECT_EQ(library().takeTranscript(), reads(32));
 }
 
 TEST_F(BlockTest, HeaderText) {

@@ -30,7 +30,8 @@ class BalanceTest : public LinkTest {
             },
             [](double fraction) {
               library().transcript.push_back(std::to_string(static_cast<int>(fraction * 100)));
-            }};
+            },
+            {}};
   }
 
   std::deque<std::string> replies;
@@ -68,6 +69,14 @@ TEST_F(BalanceTest, AFailureAsksWhetherToGoOn) {
         << all;
     EXPECT_EQ(all.find("100\n") != std::string::npos, answer == vk::BoxAnswer::kYes) << all;
   }
+}
+
+TEST_F(BalanceTest, AnEndingProgramBalancesNothingMore) {
+  desk.yields = {[] {}, [this] { desk.endProgram(); }};
+  EXPECT_EQ(vk::runBalance({{100, 1}, {300, 1}, {300, 2}}, view()), 1U);
+  EXPECT_EQ(library().takeTranscript(),
+            "Serial Number 0000100  Channel1  Balancing\nwrite(1,BAL1)\nread(1)\n33\n"
+            "Serial Number 0000300  Channel1  Balancing\n");
 }
 
 TEST_F(BalanceTest, InitialisesACardAfterTheQuestion) {

@@ -26,7 +26,7 @@ class UpgradeTest : public ::testing::Test {
     vktest::library().reply(kind == 0 ? "ERR,22\r\n" : "02\r\n");
     beginUpgrade(upgrade);
     desktop_.files.push_back(file("new.prg", upgradeImageSize(kind)));
-    EXPECT_FALSE(nextUpgradeStep(upgrade));
+    EXPECT_FALSE(nextUpgradeStep(upgrade, {}));
     EXPECT_EQ(upgrade.step, UpgradeStep::kReady);
     desktop_.log.clear();
     vktest::library().transcript.clear();
@@ -47,7 +47,7 @@ TEST_F(UpgradeTest, TakesOnlyAProgramFileOfTheRightLength) {
     Upgrade upgrade;
     desktop_.log.clear();
     desktop_.files = {size < 0 ? (folder_.path() / name).string() : file(name, size)};
-    EXPECT_FALSE(nextUpgradeStep(upgrade));
+    EXPECT_FALSE(nextUpgradeStep(upgrade, {}));
     EXPECT_EQ(upgrade.step, good ? UpgradeStep::kReady : UpgradeStep::kChooseFile);
     EXPECT_EQ(desktop_.takeLog().ends_with(
                   "box[Version Up][Specified file is not a program file.][ok][exclamation]\n"),
@@ -55,7 +55,7 @@ TEST_F(UpgradeTest, TakesOnlyAProgramFileOfTheRightLength) {
   }
   // A cancelled dialog keeps the step.
   Upgrade upgrade;
-  EXPECT_FALSE(nextUpgradeStep(upgrade));
+  EXPECT_FALSE(nextUpgradeStep(upgrade, {}));
   EXPECT_EQ(upgrade.step, UpgradeStep::kChooseFile);
   EXPECT_EQ(upgrade.message, "Specify the place of the program file.");
 }
@@ -93,7 +93,7 @@ TEST_F(UpgradeTest, EachResultHasItsWordsAndRestoresTheTimeout) {
     if (row.goodCommands < 3) vktest::library().reply("ERR,20\r\n");
     vktest::library().writeResults = {64, 64, 64, row.imageResult};
     if (row.lastReply) vktest::library().reply(row.lastReply);
-    EXPECT_FALSE(nextUpgradeStep(upgrade));
+    EXPECT_FALSE(nextUpgradeStep(upgrade, {}));
     EXPECT_EQ(upgrade.step, row.message == kDone ? UpgradeStep::kFinished : UpgradeStep::kFailed);
     EXPECT_EQ(upgrade.message, row.message);
     std::string expected;
@@ -103,7 +103,7 @@ TEST_F(UpgradeTest, EachResultHasItsWordsAndRestoresTheTimeout) {
     }
     EXPECT_EQ(vktest::library().takeTranscript(), expected + row.behind);
     EXPECT_EQ(desktop_.takeLog(), "");
-    EXPECT_TRUE(nextUpgradeStep(upgrade));
+    EXPECT_TRUE(nextUpgradeStep(upgrade, {}));
   }
 }
 

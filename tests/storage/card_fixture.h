@@ -11,7 +11,8 @@
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
 #include "recorder/mdlBoxTable.h"
-#include "storage/mdlCardReading.h"
+#include "storage/mdlCardSaving.h"
+#include "storage/mdlTempFiles.h"
 #include "storage/mdlWaveOpenRequest.h"
 #include "tests/support/data_folder.h"
 #include "tests/support/fake_desktop.h"
@@ -48,14 +49,16 @@ class CardTest : public testing::Test {
     vk::gBoxTable[1].handle = 1;
     vk::gUSBBusy = 0;
     vk::gCardDirectory.clear();
-    vk::gConvertToCsv = nullptr;
+    vk::gTempFileList.clear();
     vk::resetWaveOpenRequest();
     reading.folder = {folder.string(), folder.string()};
     reading.temporaryFolder = (folder / "tmp").string();
-    reading.view.setPercent = [this](int percent) { note("bar " + std::to_string(percent)); };
-    reading.view.setPercentText = [this](const std::string& text) { note("count " + text); };
-    reading.view.setMessage = [this](const std::string& text) { note("label " + text); };
-    reading.view.appendTempFile = [this](const std::string& line) { note("delete " + line); };
+    view.say = [this](const std::string& text, const std::string&) { note("label " + text); };
+    view.progress = [this](double fraction) {
+      const int percent = vk::percentOf(fraction);
+      if (percent != shown) note(std::to_string(percent) + "%");
+      shown = percent;
+    };
   }
 
   void note(const std::string& line) { desktop.log.push_back(line); }
@@ -120,6 +123,8 @@ class CardTest : public testing::Test {
   DataFolder place;
   const std::filesystem::path folder = place.path();
   vk::CardReading reading;
+  vk::JobView view;
+  int shown = -1;  ///< percent
 };
 
 }  // namespace vktest

@@ -113,18 +113,42 @@ TEST_F(frmBin_CSVTest, FoldersArePickedOrTyped) {
   EXPECT_EQ("[ ]A.DAT\n[ ]B.DAT\n", listText(list(), 1));
 }
 
-TEST_F(frmBin_CSVTest, ConvertsOnlyWhatItsListShows) {
-  check(0);
-  const auto* box = control<QLineEdit>(*form, "txtFolder(0)");
-  form->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-  control<QLineEdit>(*form, "txtFolder(0)")->setFocus();
-  QTest::keyClicks(form->focusWidget(), "/more");
-  // Pressed by its letter, the button leaves the focus where it is.
-  QTest::keyClick(form->focusWidget(), Qt::Key_S, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return listText(list(), 1) == "[ ]C.DAT\n"; }));
-  EXPECT_EQ(box, form->focusWidget());
-  EXPECT_FALSE(fs::exists(top + "/C.csv") || fs::exists(top + "/A.csv"));
+TEST_F(frmBin_CSVTest, ATypedFolderAndSaveConvertOrSayWhyNot) {
+  const struct {
+    const char* typed;
+    std::string list, shown;
+  } rows[] = {
+      {"/more", "[ ]C.DAT\n", "check file."},
+      {"/gone", "", "box[File Error][Folder does not exist.]\n"},
+      // The folder that is listed already, spelled otherwise, keeps its marks.
+      {"/more/..", "[x]A.DAT\n[ ]B.DAT\n", "A.csv  conversion ended."},
+  };
+  for (const bool byLetter : {true, false}) {
+    for (const auto& row : rows) {
+      form = std::make_unique<vk::frmBin_CSV>();
+      form->show();
+      form->activateWindow();
+      ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+      check(0);
+      control<QLineEdit>(*form, "txtFolder(0)")->setFocus();
+      QTest::keyClicks(form->focusWidget(), QLatin1String(row.typed));
+      type(*form, "txtFolder(1)", top.c_str());
+      // Pressed by its letter, the button leaves the focus where it is.
+      auto* save = control<QPushButton>(*form, "cmdCSVSave");
+      if (byLetter) {
+        QTest::keyClick(form->focusWidget(), Qt::Key_S, Qt::AltModifier);
+      } else {
+        QTest::mouseClick(save, Qt::LeftButton);
+      }
+      const auto shown = [&] { return textIn<QLabel>(*form, "lblPrg"); };
+      const auto settled = [&] { return shown() == row.shown || !desk.log.empty(); };
+      EXPECT_TRUE(QTest::qWaitFor(settled)) << row.typed;
+      EXPECT_EQ(desk.takeLog() + shown(), row.shown);
+      EXPECT_EQ(row.list, listText(list(), 1));
+      EXPECT_EQ(fs::remove(top + "/A.csv"), row.shown.starts_with("A.csv"));
+      EXPECT_FALSE(fs::exists(top + "/more/C.csv"));
+    }
+  }
 }
 
 TEST_F(frmBin_CSVTest, ConvertsTheCheckedFilesWithItsControlsLocked) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "storage/frmRouteDirectory.h"
 
+#include <sys/resource.h>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
@@ -10,6 +12,7 @@
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QTabBar>
+#include <csignal>
 
 #include "base/mdlDataFolder.h"
 #include "instrument/simulator/library.h"
@@ -17,7 +20,6 @@
 #include "link/mdlUSBCommand.h"
 #include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
-#include "storage/mdlCsvConversion.h"
 #include "storage/mdlTempFiles.h"
 #include "storage/mdlWaveOpenRequest.h"
 #include "tests/instrument/simulator/bench.h"
@@ -51,7 +53,6 @@ class frmRouteDirectoryTest : public ::testing::Test {
   ~frmRouteDirectoryTest() override {
     vksim::attachBus(nullptr);
     vk::gDefaultFolder.clear();
-    vk::gConvertToCsv = {};
     vk::resetBoxTable();
   }
   /// The window as the main window opens it, without its modal loop.
@@ -127,9 +128,7 @@ TEST_F(frmRouteDirectoryTest, OpensWithTheCardsFilesUnderAProgressWindow) {
     columns += vk::fromQt(list().headerItem()->text(i)) + (list().isColumnHidden(i) ? "-" : "+");
   EXPECT_EQ("Name+Size+Date+HeadderSize-Series-", columns);
   EXPECT_EQ("", head());
-  // All but the conversion, which is not there.
-  EXPECT_EQ("111111111011111 picWave", state());
-  EXPECT_FALSE(control<QPushButton>(form, "cmdCSVSave")->toolTip().isEmpty());
+  EXPECT_EQ("111111111111111 picWave", state());
   const auto* divisions = control<QComboBox>(form, "cmbDivision");
   for (int i = 0; i < divisions->count(); ++i) counts += vk::fromQt(divisions->itemText(i)) + " ";
   EXPECT_EQ("5000 10000 15000 20000 25000 30000 35000 40000 45000 50000 55000 60000 65000 ",
@@ -165,7 +164,7 @@ TEST_F(frmRouteDirectoryTest, TabsChooseThePanelAndTheNames) {
   click(0);
   for (const char* box : {"txtFolder(0)", "txtFolder(1)"}) type(form, box, "/elsewhere");
   tab(vk::kTabBinary);
-  EXPECT_EQ("111111111011011 picBinSave", state());
+  EXPECT_EQ("111111111111011 picBinSave", state());
   EXPECT_EQ("", head());
   EXPECT_EQ(folder + "/elsewhere", textIn(form, "txtFolder(0)") + textIn(form, "txtFolder(1)"));
   auto* menu = control<QMenu>(form, "mnuAllSelect");
@@ -189,10 +188,10 @@ TEST_F(frmRouteDirectoryTest, TabsChooseThePanelAndTheNames) {
   press(form, "cmdFileSerNameChange");
   const std::string marked = "[x]FIRST.DAT\n[ ]DAT00002.DAT\n[x]DAT00003.DAT\n";
   tab(vk::kTabCsv);
-  EXPECT_EQ("111111111011011 picCSVSave", state());
+  EXPECT_EQ("111111111111011 picCSVSave", state());
   EXPECT_EQ(folder + marked, textIn(form, "txtFolder(1)") + listText(list(), 1));
   tab(vk::kTabWave);
-  EXPECT_EQ("DAT00001.DAT\nDAT00002.DAT\nDAT00003.DAT\n111111111011111 picWave",
+  EXPECT_EQ("DAT00001.DAT\nDAT00002.DAT\nDAT00003.DAT\n111111111111111 picWave",
             listText(list(), 1) + state());
   EXPECT_FALSE(control<QPushButton>(form, "cmdFileSerNameChange")->isVisible());
   rightClick();
@@ -244,7 +243,7 @@ TEST_F(frmRouteDirectoryTest, LocksItsControlsDuringATransfer) {
       "000000000000000 picBinSave 50% DAT00001.DAT  Reading data file from the VK-480Q... open "
       "picBinSave",
       during);
-  EXPECT_EQ("111111111011011 picBinSave", state());
+  EXPECT_EQ("111111111111011 picBinSave", state());
   EXPECT_TRUE(onCard("DAT00001.DAT") == saved("DAT00001.dat"));
   EXPECT_EQ("", desk.takeLog());
   EXPECT_EQ("", saved("DAT00003.dat"));
@@ -253,28 +252,26 @@ TEST_F(frmRouteDirectoryTest, LocksItsControlsDuringATransfer) {
 }
 
 TEST_F(frmRouteDirectoryTest, HandsItsChoicesToTheConversion) {
-  std::string seen;
-  vk::gConvertToCsv = [&](vk::CardReading& reading, std::size_t row) {
-    seen += reading.files[row].rowText + (reading.csv.division ? " divided " : " whole ") +
-            std::to_string(reading.csv.divisionCount) +
-            (reading.csv.scaled ? " scaled " : " raw ") + reading.folder[1] + "\n";
-    return vk::kCardOk;
-  };
+  std::filesystem::create_directory(folder + "/there");
   open(vk::kTabCsv, {1});
-  type(form, "txtFolder(1)", "/there");
+  type(form, "txtFolder(1)", (folder + "/there").c_str());
   press(form, "cmdCSVSave");
   control<QCheckBox>(form, "chkDivision")->setChecked(true);
-  control<QComboBox>(form, "cmbDivision")->setCurrentText("65000");
+  control<QComboBox>(form, "cmbDivision")->setCurrentText("30000");
   control<QRadioButton>(form, "optCoeff(1)")->click();
   press(form, "cmdCSVSave");
-  EXPECT_EQ(
-      "DAT00002.DAT whole 5000 scaled /there\nDAT00002.DAT divided 65000 raw /there\n"
-      "111111111111011 picCSVSave",
-      seen + state());
+  const auto firstLine = [&](const std::string& name) {
+    const std::string text = saved("there/" + name);
+    const auto at = text.find("\n1,");
+    return at == std::string::npos ? "none" : text.substr(at + 1, text.find("\r\n2,") - at - 1);
+  };
+  EXPECT_NE(firstLine("DAT00002.csv"), firstLine("DAT00002_0001.csv"));
+  EXPECT_NE(firstLine("DAT00002_0002.csv"), "none");
+  EXPECT_EQ(firstLine("DAT00002_0003.csv"), "none");
+  EXPECT_EQ("111111111111011 picCSVSave", state());
 }
 
 TEST_F(frmRouteDirectoryTest, SavesAsCsv) {
-  vk::gConvertToCsv = vk::convertToCsv;
   open(vk::kTabCsv, {2});
   press(form, "cmdCSVSave");
   const std::string csv = saved("DAT00003.csv");
@@ -303,6 +300,28 @@ TEST_F(frmRouteDirectoryTest, FetchesAFileForTheWaveView) {
   EXPECT_EQ(stem + ".dat\r\n" + stem + ".hed\r\n", vk::gTempFileList);
   EXPECT_EQ(0u, stem.find(desk.data.path().toStdString()));
   EXPECT_EQ("1,2,3,4", vk::waveOpenRequest.channelList[0]);
+}
+
+TEST_F(frmRouteDirectoryTest, AFullDiskLeavesTheBoxInStep) {
+  open(vk::kTabBinary, {0});
+  rlimit unlimited{};
+  getrlimit(RLIMIT_FSIZE, &unlimited);
+  const rlimit limit{1000, unlimited.rlim_max};
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &limit);
+  press(form, "cmdBinSave");
+  setrlimit(RLIMIT_FSIZE, &unlimited);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ("box[File Error][" + folder +
+                "/DAT00001.dat\r\nError has occurred.]\nbox[USB Error][canceled.]\n",
+            desk.takeLog());
+  EXPECT_EQ("Ended.", label("lblPrg"));
+  // The next command gets its own reply.
+  std::string text;
+  EXPECT_EQ(vk::kUsbOk, vk::usbHFL(kBoxSerial, "DAT00003", 362, text));
+  EXPECT_EQ(onCard("DAT00003.HED"), text.substr(0, 362));
+  EXPECT_EQ(vk::kUsbOk, vk::usbRUN(kBoxSerial));
+  EXPECT_EQ("", desk.takeLog() + saved("DAT00001.dat"));
 }
 
 TEST_F(frmRouteDirectoryTest, TheFolderPickersChoiceIsShown) {

@@ -9,7 +9,7 @@ using vktest::wave;
 
 const std::string kCanceled = "box[USB Error][canceled.][ok-cancel][exclamation]\n";
 const std::string kEmpty = "box[File Error][Size of the file is 0 bytes.][ok][exclamation]\n";
-const std::string kEnd = "0";
+const std::string kEnd = "0";  // files that failed
 
 std::string ask(const std::string& name) {
   return "box[File Process][<>/" + name +
@@ -24,10 +24,9 @@ class CardSavingTest : public vktest::CardTest {
   /// The log is without what a single transfer shows.
   CardSavingTest() {
     vk::waveRequestSet = 1;
-    reading.view.setPercent = [this](int percent) { bar = std::to_string(percent); };
-    reading.view.setPercentText = [this](const std::string& text) { count = text; };
-    reading.view.setMessage = [this](const std::string& text) {
-      if (!text.ends_with("...")) note("label " + text);
+    view.progress = {};
+    view.say = [this](const std::string& text, const std::string&) {
+      if (!text.ends_with("...") && !text.ends_with("conversion ended.")) note("label " + text);
     };
   }
   void put(const std::string& stem, std::size_t size = 4) {
@@ -35,10 +34,9 @@ class CardSavingTest : public vktest::CardTest {
     serve(size);
   }
   std::string save(vk::SaveKind kind = vk::kSaveBinary) {
-    vk::saveCheckedFiles(reading, kind);
-    return takeLog() + bar + count;
+    const vk::CardSaved result = vk::saveCheckedFiles(reading, kind, view);
+    return takeLog() + (result.any ? std::to_string(result.failed) : "");
   }
-  std::string bar, count;
 };
 
 TEST_F(CardSavingTest, SavesTheCheckedRowsInOrder) {
@@ -90,31 +88,47 @@ TEST_F(CardSavingTest, AfterAFailureTheUserDecides) {
     library().blocks.push_back({"", -1006});
     put("B");
     desktop.answers = {row.answer};
-    EXPECT_EQ(save(), kCanceled + row.log + kEnd);
+    EXPECT_EQ(save(), kCanceled + row.log + "1");
     EXPECT_EQ(listing(), row.files);
     EXPECT_EQ(vk::waveRequestSet, 0);
   }
 }
 
-TEST_F(CardSavingTest, CsvGoesThroughItsConversion) {
-  for (const auto& [stem, size] : {std::pair{"A", 4}, {"B", 4}, {"EMPTY", 0}}) addFile(stem, size);
-  EXPECT_EQ(save(vk::kSaveCsv), "");
-  place.put("csv/A.csv", "old");
-  std::string rows;
-  vk::gConvertToCsv = [&](vk::CardReading&, std::size_t row) {
-    rows += std::to_string(row) + " ";
-    return row == 1 ? -1 : 0;
+TEST_F(CardSavingTest, EachKindAsksAboutItsOwnFilesAsItsOwnDivisionSays) {
+  const std::string csv = "label A.DAT  reading ended.\nlabel Ended.\n";
+  const struct {
+    vk::SaveKind kind;
+    bool division;
+    std::string log;
+  } rows[] = {
+      {vk::kSaveBinary, false, ask("A.DAT") + "label canceled.\n" + kEnd},
+      // What the CSV page says about dividing is nothing to a pair.
+      {vk::kSaveBinary, true, ask("A.DAT") + "label canceled.\n" + kEnd},
+      {vk::kSaveCsv, false, ask("A.csv") + "label canceled.\n" + kEnd},
+      // The numbered names are asked about by the conversion itself.
+      {vk::kSaveCsv, true, csv + kEnd},
   };
-  const std::string all = "label Ended.\n" + kCanceled + "label Ended.\n" + kEmpty + kEnd;
-  EXPECT_EQ(save(vk::kSaveCsv), all);
-  reading.folder[1] = (folder / "csv").string() + "/";
-  desktop.answers = {BoxAnswer::kNo, BoxAnswer::kCancel};
-  EXPECT_EQ(save(vk::kSaveCsv), ask("csv/A.csv") + "label canceled.\n" + kCanceled +
-                                    "label Communication Error has occurred.\n" + kEnd);
-  // With division on the numbered names are asked about by the conversion itself.
-  reading.csv.division = true;
-  EXPECT_EQ(save(vk::kSaveCsv), all);
-  EXPECT_EQ(rows, "0 1 1 0 1 ");
+  for (const auto& row : rows) {
+    startOver();
+    for (const char* name : {"A.dat", "A.csv"}) place.put(name, "old");
+    put("A", 65536);
+    library().block(vktest::cardHeader());
+    reading.csv.division = row.division;
+    desktop.answers = {BoxAnswer::kNo};
+    EXPECT_EQ(save(row.kind), row.log);
+    EXPECT_EQ(saved("A.dat") + saved("A.csv"), "oldold");
+    EXPECT_EQ(saved("A_0001.csv").empty(), row.kind == vk::kSaveBinary || !row.division);
+  }
+}
+
+TEST_F(CardSavingTest, AfterAFailedConversionTheUserDecides) {
+  addFile("A");
+  addFile("B");
+  // Each refused header shows three boxes before the question.
+  desktop.answers.assign(7, BoxAnswer::kOk);
+  desktop.answers.push_back(BoxAnswer::kCancel);
+  const std::string log = save(vk::kSaveCsv);
+  EXPECT_TRUE(log.ends_with(kCanceled + "label Communication Error has occurred.\n2")) << log;
 }
 
 TEST_F(CardSavingTest, AnEndingProgramAsksNothingMore) {

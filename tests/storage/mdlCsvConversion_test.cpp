@@ -46,12 +46,11 @@ std::string words(std::initializer_list<int> values) {
 /// Works in either place on a recording "A" of two series.
 class CsvConversionTest : public vktest::CardTest {
  protected:
-  CsvConversionTest() { quiet(); }
-  void quiet() { reading.view = {}; }
+  CsvConversionTest() { view = {}; }
   /// Progress in the log as well.
   void watch() {
-    reading.view.setPercentText = [this](const std::string& text) { note(text); };
-    reading.view.setMessage = [this](const std::string& text) { note(text); };
+    view.progress = [this](double part) { note(std::to_string(vk::percentOf(part)) + "%"); };
+    view.say = [this](const std::string& text, const std::string&) { note(text); };
   }
   vk::CsvJob job(int samples, bool division = false, int count = 4) {
     vk::CsvJob job;
@@ -63,7 +62,7 @@ class CsvConversionTest : public vktest::CardTest {
     return job;
   }
   std::string convert(const vk::CsvJob& job) {
-    const int32_t result = vk::convertRecording(job, {reading.view, stopped});
+    const int32_t result = vk::convertRecording(job, view);
     return takeLog() + std::to_string(result);
   }
   /// Converts in the card window, whose box serves `samples` of zeros.
@@ -74,7 +73,7 @@ class CsvConversionTest : public vktest::CardTest {
     library().block(headerText(samples));
     library().block(std::string((static_cast<std::size_t>(samples) * 4 + 63) / 64 * 64, '\0'));
     library().block(headerText(samples));
-    const int32_t result = vk::convertToCsv(reading, 0);
+    const int32_t result = vk::convertToCsv(reading, 0, view);
     return takeLog() + std::to_string(result);
   }
   /// Converts in the window over a folder.
@@ -86,7 +85,7 @@ class CsvConversionTest : public vktest::CardTest {
     work.files = vk::recordingsIn(folder.string());
     for (auto& file : work.files) file.checked = true;
     work.options = {division, 4, true};
-    const int32_t result = vk::convertCheckedFiles(work);
+    const int32_t result = vk::convertCheckedFiles(work, view);
     return takeLog() + std::to_string(result);
   }
   /// Name, number of lines behind the head, NUM_SAMPS and times of every CSV file.
@@ -107,7 +106,6 @@ class CsvConversionTest : public vktest::CardTest {
     for (const auto& line : lines) text += line;
     return text;
   }
-  std::function<bool()> stopped;
 };
 
 TEST_F(CsvConversionTest, WritesAWholeFile) {
@@ -258,17 +256,17 @@ TEST_F(CsvConversionTest, AFullDiskIsShown) {
   const rlimit limit{300000, unlimited.rlim_max};
   const auto handler = std::signal(SIGXFSZ, SIG_IGN);
   setrlimit(RLIMIT_FSIZE, &limit);
-  const std::string shown = convert(job(100000));
+  const std::string told = convert(job(100000));
   setrlimit(RLIMIT_FSIZE, &unlimited);
   std::signal(SIGXFSZ, handler);
-  EXPECT_EQ(shown, fileBox("A.csv", kOther) + "-1");
+  EXPECT_EQ(told, fileBox("A.csv", kOther) + "-1");
   EXPECT_EQ(listing(), "A.csv 3\nA.dat 0\n");
 }
 
 TEST_F(CsvConversionTest, StopsInAYield) {
   place.put("A.dat", "");
   bool closed = false;
-  stopped = [&] { return closed; };
+  view.stopped = [&] { return closed; };
   // The third mark of 100 samples is raised in the second file of four.
   for (int i = 0; i < 2; ++i) desktop.yields.push_back([] {});
   desktop.yields.push_back([&] { closed = true; });
@@ -285,13 +283,13 @@ TEST_F(CsvConversionTest, TheCardsHeaderIsReadAgainByTheRowsName) {
   const std::string transcript = library().takeTranscript();
   EXPECT_NE(transcript.find("HFLA.DAT.HED"), std::string::npos);
   EXPECT_NE(transcript.find("HFLA.HED"), std::string::npos);
-  EXPECT_EQ(vktest::DataFolder::bytesOf(reading.temporaryStem + ".dat").size(), 12U);
+  EXPECT_EQ(saved("tmp/2026_01_05_09_30_00.dat").size(), 12U);
   // The box does not know a new name.
   reading.files[0].rowText = "NEW.DAT";
   library().block(headerText(3));
   library().block(std::string(64, '\0'));
   library().block("ERR");
-  EXPECT_EQ(vk::convertToCsv(reading, 0), vk::kCardFailed);
+  EXPECT_EQ(vk::convertToCsv(reading, 0, view), vk::kCardFailed);
   EXPECT_TRUE(takeLog().ends_with(
       "box[Header File Error][Cannot read Header File.][ok][exclamation]\n" + kBadHeader));
   EXPECT_FALSE(desktop.hourglass);
@@ -324,22 +322,21 @@ TEST_F(CsvConversionTest, WorksOverTheCheckedFilesOfAFolder) {
   std::filesystem::create_directory(folder / "out");
   vk::CsvFolder work;
   watch();
-  work.view = {reading.view, {}};
   work.folder = {folder.string(), (folder / "gone").string()};
   work.files = vk::recordingsIn(folder.string());
-  EXPECT_FALSE(vk::readyToConvert(work));
+  EXPECT_FALSE(vk::readyToConvert(work, view));
   for (auto& file : work.files) file.checked = file.rowText != "A.dat";
-  EXPECT_FALSE(vk::readyToConvert(work));
+  EXPECT_FALSE(vk::readyToConvert(work, view));
   EXPECT_EQ(takeLog(), "box[File Error][Folder does not exist.][ok][exclamation]\n");
   work.folder[1] = (folder / "out").string();
-  EXPECT_TRUE(vk::readyToConvert(work));
-  EXPECT_EQ(vk::convertCheckedFiles(work), vk::kCardFailed);
+  EXPECT_TRUE(vk::readyToConvert(work, view));
+  EXPECT_EQ(vk::convertCheckedFiles(work, view), vk::kCardFailed);
   EXPECT_EQ(takeLog(), "0%\n10%\nB.csv  is being converted...\nB.csv  conversion ended.\n0%\n" +
-                           kBadHeader + "\n\n");
+                           kBadHeader + "\n");
   EXPECT_EQ(listing().find("out/D.csv"), std::string::npos);
   desktop.answers = {BoxAnswer::kNo};
-  EXPECT_EQ(vk::convertCheckedFiles(work), vk::kCardFailed);
-  EXPECT_TRUE(takeLog().ends_with("0%\n" + ask("out/B.csv") + "\ncanceled.\n"));
+  EXPECT_EQ(vk::convertCheckedFiles(work, view), vk::kCardFailed);
+  EXPECT_TRUE(takeLog().ends_with("0%\n" + ask("out/B.csv") + "canceled.\n"));
 }
 
 }  // namespace

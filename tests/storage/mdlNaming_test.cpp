@@ -39,7 +39,8 @@ TEST_F(NamingTest, TheCheckedRowsAreNamedAndNamesGoBackToThemOnly) {
   reading.files[1].saveFileName = "NEW.DAT";
   reading.files[2].seriesText = "";
   EXPECT_TRUE(vk::prepareNaming(reading, list));
-  EXPECT_EQ(list.rows, (std::vector<vk::NamingRow>{{"NEW.DAT", "CH1,CH2"}, {"C.DAT", ""}}));
+  EXPECT_EQ(list.rows,
+            (std::vector<vk::NamingRow>{{"NEW.DAT", "CH1,CH2", false}, {"C.DAT", "", false}}));
   vk::activateNaming(list);
   EXPECT_FALSE(vk::setAllFileNames(list, "a:"));
   EXPECT_FALSE(vk::setAllSeries(list, "p"));
@@ -58,6 +59,29 @@ TEST_F(NamingTest, TheCheckedRowsAreNamedAndNamesGoBackToThemOnly) {
   EXPECT_FALSE(vk::prepareNaming(reading, list));
   vk::checkAllRows(reading, false);
   EXPECT_FALSE(vk::prepareNaming(reading, list));
+}
+
+TEST_F(NamingTest, TypedSeriesNamesTakeTheEncodingOfTheirHeader) {
+  for (const char* stem : {"A", "B"}) addFile(stem);
+  reading.files[1].latin1 = true;
+  vk::NamingList list;
+  EXPECT_TRUE(vk::prepareNaming(reading, list));
+  vk::activateNaming(list);
+  const std::string refused = "box[SERIES Error][Invalid　value][ok][exclamation]\n";
+  const auto series = [&] { return list.rows[0].series + "|" + list.rows[1].series; };
+  const auto enter = [&](std::size_t row, const char* text) {
+    vk::selectNamingRow(list, row);
+    const bool taken = vk::enterSeriesText(list, text);
+    return (taken ? "1" : "0") + takeLog() + series();
+  };
+  EXPECT_EQ(enter(0, "ひ,ü"), "1ひ,ü|CH1,CH2");
+  EXPECT_EQ(enter(1, "Länge,µ"), "1ひ,ü|L\xE4nge,\xB5");
+  EXPECT_EQ(enter(1, "ひ,b"), "0" + refused + "ひ,ü|L\xE4nge,\xB5");
+  // One row that cannot take the text keeps it from all.
+  EXPECT_FALSE(vk::setAllSeries(list, "a,ひ"));
+  EXPECT_EQ(takeLog() + series(), refused + "ひ,ü|L\xE4nge,\xB5");
+  EXPECT_TRUE(vk::setAllSeries(list, "ä,b"));
+  EXPECT_EQ(series(), "ä,b|\xE4,b");
 }
 
 }  // namespace

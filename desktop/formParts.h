@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Two small helpers that the forms of this folder share in building themselves.
+// Two small helpers that forms share in building themselves.
 #pragma once
 
 #include <QLabel>

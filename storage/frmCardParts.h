@@ -58,8 +58,10 @@ struct ProgressControls {
   QLabel* lblPrgCnt;
 
   QWidget* build(QWidget* form);
-  /// The controls show what an operation says.
-  void connectTo(CardReadingView& view) const;
+  /// A job shows itself by the controls: its first line and how far it is.
+  JobView jobView() const;
+  /// No percent any more; the line stays.
+  void clear() const;
 };
 
 /// The form: files on the left, choices on the right, progress and the closing button below. What

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "storage/frmCsvControls.h"
+#include "storage/frmCardParts.h"
 
 #include <QAction>
 #include <QButtonGroup>
@@ -21,8 +21,8 @@
 #include "base/mdlText.h"
 #include "base/mdlTwips.h"
 #include "desktop/clsElidedLabel.h"
+#include "desktop/formParts.h"
 #include "desktop/qtText.h"
-#include "storage/frmFormParts.h"
 
 namespace vk {
 
@@ -167,12 +167,20 @@ QWidget* ProgressControls::build(QWidget* form) {
   return box;
 }
 
-void ProgressControls::connectTo(CardReadingView& view) const {
-  view.setPercent = [bar = pbrFile](int percent) { bar->setValue(percent); };
-  view.setPercentText = [label = lblPrgCnt](const std::string& text) {
-    label->setText(toQt(text));
-  };
-  view.setMessage = [label = lblPrg](const std::string& text) { label->setText(toQt(text)); };
+JobView ProgressControls::jobView() const {
+  return {
+      [label = lblPrg](const std::string& text, const std::string&) { label->setText(toQt(text)); },
+      [bar = pbrFile, label = lblPrgCnt](double fraction) {
+        const int percent = percentOf(fraction);
+        bar->setValue(percent);
+        label->setText(toQt(textOf(percent) + "%"));
+      },
+      {}};
+}
+
+void ProgressControls::clear() const {
+  lblPrgCnt->clear();
+  pbrFile->setValue(0);
 }
 
 void layOutForm(QWidget* form, QWidget* above, QLayout* files, QLayout* choices,

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/qtText.h"
+
+#include <gtest/gtest.h>
+
+namespace vk {
+namespace {
+
+TEST(QtTextTest, AShownTextLosesNoLetter) {
+  const std::pair<std::string, QString> rows[] = {
+      {"h\xC3\xB6he", QString(u"h\u00F6he")},
+      {"h\xF6he", QString(u"h\u00F6he")},
+      // A last byte that looks like the begin of a letter.
+      {"caf\xE9", QString(u"caf\u00E9")},
+      {"\xC3", QString(u"\u00C3")},
+  };
+  for (const auto& [bytes, shown] : rows) EXPECT_EQ(toQt(bytes), shown) << bytes;
+}
+
+}  // namespace
+}  // namespace vk
