@@ -85,7 +85,7 @@ QHBoxLayout* frmCal::outputs() {
   auto* row = new QHBoxLayout;
   row->setSpacing(10);
   for (int i = 0; i < kCalOutputs; ++i) {
-    const auto at = static_cast<std::size_t>(i);
+    const std::size_t at = i;
     auto* button = named(new QPushButton(toQt(kCalButtons[at]), this), elementName("cmdCal", i));
     button->setIconSize(kPictureSize);
     button->setIcon(calIcon(i));
@@ -146,7 +146,7 @@ void frmCal::cmdCal_Click(int button) {
 
 void frmCal::showPictures() {
   for (int i = 0; i < kCalOutputs; ++i) {
-    auto* button = cmdCal_[static_cast<std::size_t>(i)];
+    auto* button = cmdCal_[i];
     const int picture = calPicture(calibration_, i);
     button->setIcon(calIcon(picture));
     button->setAccessibleDescription(picture >= kCalOutputs ? tr("pressed last") : QString());

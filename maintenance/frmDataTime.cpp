@@ -29,7 +29,7 @@ frmDataTime::frmDataTime(int32_t serial, QWidget* parent) : QDialog(parent), ser
 }
 
 void frmDataTime::addBox(QGridLayout& grid, int box) {
-  const auto at = static_cast<std::size_t>(box);
+  const std::size_t at = box;
   const QString text = toQt(kDateLabels[at]);
   auto* label = named(new QLabel(text, this), elementName("lblDate", box));
   auto* edit = named(new QLineEdit(this), elementName("txtDate", box), text);
@@ -88,7 +88,7 @@ bool frmDataTime::eventFilter(QObject* watched, QEvent* event) {
   if (box == txtDate_.end() || (key != Qt::Key_Return && key != Qt::Key_Enter)) {
     return QDialog::eventFilter(watched, event);
   }
-  txtDate_KeyPress(static_cast<int>(box - txtDate_.begin()));
+  txtDate_KeyPress(box - txtDate_.begin());
   return true;  // or the key would press the default button
 }
 
@@ -104,7 +104,7 @@ void frmDataTime::select(int box) {
     cmdSet_->setFocus(Qt::TabFocusReason);
     return;
   }
-  auto* edit = txtDate_[static_cast<std::size_t>(box)];
+  auto* edit = txtDate_[box];
   edit->setFocus(Qt::OtherFocusReason);
   edit->selectAll();
 }

@@ -51,7 +51,7 @@ std::size_t runBalance(const std::vector<BalanceStep>& steps, const JobView& vie
     view.tell("Serial Number " + serialText(step.serial) + "  Channel" + textOf(step.channel),
               "  Balancing");
     if (!view.yield() || !balance(step)) break;
-    view.tellProgress(static_cast<double>(++done) / static_cast<double>(steps.size()));
+    view.tellProgress(static_cast<double>(++done) / steps.size());
   }
   return done;
 }

@@ -28,14 +28,14 @@ constexpr std::array<int32_t, 12> kDays{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 
 constexpr int32_t kFebruary = 2;
 
 std::optional<int32_t> numberIn(const DateTexts& texts, int box) {
-  return readWhole(texts[static_cast<std::size_t>(box)]);
+  return readWhole(texts[box]);
 }
 
 /// Empty when the month box shows no month: then there is nothing to check a day by.
 std::optional<Limits> dayLimits(const DateTexts& texts) {
   const int32_t month = numberIn(texts, kMonth).value_or(0);
   if (month < 1 || month > 12) return std::nullopt;
-  int32_t days = kDays[static_cast<std::size_t>(month - 1)];
+  int32_t days = kDays[month - 1];
   const int32_t year = numberIn(texts, kYear).value_or(0);
   if (month == kFebruary && std::ranges::count(kLeapYears, year) > 0) ++days;
   return Limits{0, days};
@@ -66,7 +66,7 @@ std::string_view boxMessage(const DateTexts& texts, int box) {
   const auto limits = limitsOf(texts, box);
   if (!limits) return {};
   const auto number = numberIn(texts, box);
-  if (!number) return unreadableMessage(texts[static_cast<std::size_t>(box)]);
+  if (!number) return unreadableMessage(texts[box]);
   return *number < limits->least || *number > limits->most ? kOutsideValue : std::string_view{};
 }
 
@@ -92,10 +92,10 @@ DateSent sendDate(int32_t serial, const DateTexts& texts) {
   for (int box = 0; box < kDateBoxes; ++box) {
     const auto number = numberIn(texts, box);
     if (!number) {
-      showBox(kInputError, unreadableMessage(texts[static_cast<std::size_t>(box)]));
+      showBox(kInputError, unreadableMessage(texts[box]));
       return {kUsbUnreadable, box};
     }
-    numbers[static_cast<std::size_t>(box)] = *number;
+    numbers[box] = *number;
   }
   const auto [year, month, day, hour, minute, second] = numbers;
   return {usbRTM(serial, rtmText({year, month, day, hour, minute, second})), std::nullopt};

@@ -34,7 +34,7 @@ bool readImage(const std::string& path, int32_t size, std::vector<unsigned char>
   std::error_code error;
   const auto length = std::filesystem::file_size(path, error);
   if (error || length != static_cast<std::uintmax_t>(size)) return false;
-  image.resize(static_cast<std::size_t>(size));
+  image.resize(size);
   std::ifstream file(path, std::ios::binary);
   file.read(reinterpret_cast<char*>(image.data()), size);
   return file.gcount() == size;
@@ -74,7 +74,7 @@ struct Transferred {
 
 Transferred transfer(const std::vector<unsigned char>& image, const JobView& view) {
   constexpr int kBlocks = 3;
-  const auto size = static_cast<int32_t>(image.size());
+  const int32_t size = image.size();
   for (int block = 1; block <= kBlocks; ++block) {
     show(view, "Data are being transmitted.", "PWE..." + textOf(block));
     if (usbPWE(block, size) != kUsbOk) {

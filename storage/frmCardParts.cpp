@@ -32,9 +32,9 @@ QTreeWidget* buildFileList(QWidget* form, const QString& spoken) {
   list->setUniformRowHeights(true);
   list->setAllColumnsShowFocus(true);
   list->setContextMenuPolicy(Qt::CustomContextMenu);
-  list->setColumnCount(static_cast<int>(kCardColumns.size()));
+  list->setColumnCount(kCardColumns.size());
   for (std::size_t i = 0; i < kCardColumns.size(); ++i) {
-    const int column = static_cast<int>(i);
+    const int column = i;
     const int width = toPixels(kCardColumns[i].twips);
     list->headerItem()->setText(column, toQt(kCardColumns[i].title));
     list->setColumnWidth(column, width);
@@ -64,14 +64,14 @@ void takeChecks(const QTreeWidget& list, std::vector<CardEntry>& files) {
   for (int row = 0; row < list.topLevelItemCount(); ++row) {
     const QVariant state = list.topLevelItem(row)->data(0, Qt::CheckStateRole);
     if (state.isValid()) {
-      files[static_cast<std::size_t>(row)].checked = state.toInt() == Qt::Checked;
+      files[row].checked = state.toInt() == Qt::Checked;
     }
   }
 }
 
 void showChecks(QTreeWidget& list, const std::vector<CardEntry>& files, bool boxes) {
   for (int row = 0; row < list.topLevelItemCount(); ++row) {
-    const bool checked = files[static_cast<std::size_t>(row)].checked;
+    const bool checked = files[row].checked;
     const QVariant state = checked ? Qt::Checked : Qt::Unchecked;
     list.topLevelItem(row)->setData(0, Qt::CheckStateRole, boxes ? state : QVariant());
   }

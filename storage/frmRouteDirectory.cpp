@@ -96,7 +96,7 @@ bool frmRouteDirectory::openCard() {
 
 void frmRouteDirectory::showRows() {
   for (int row = 0; row < lvwFileName_->topLevelItemCount(); ++row) {
-    const CardEntry& entry = reading_.files[static_cast<std::size_t>(row)];
+    const CardEntry& entry = reading_.files[row];
     auto* item = lvwFileName_->topLevelItem(row);
     item->setText(0, toQt(entry.rowText));
     item->setText(4, toQt(entry.seriesText));
@@ -127,7 +127,7 @@ void frmRouteDirectory::lvwFileName_ItemClick(QTreeWidgetItem* item) {
   if (row < 0 || busy_ || !answering_) return;
   const SelectedHeader header = [&] {
     const FlagGuard busy(busy_);
-    return clickCardRow(reading_, static_cast<std::size_t>(row));
+    return clickCardRow(reading_, row);
   }();
   if (!header.shown) return;
   txtHead_->setPlainText(toQt(header.text));
@@ -155,8 +155,7 @@ void frmRouteDirectory::cmdRun_Click() {
     lockControls();
     desktop().doEvents();
     const CardFetched fetched =
-        readDataFile({reading_.serial, reading_.files[static_cast<std::size_t>(row)], kReadToView,
-                      reading_.temporaryFolder},
+        readDataFile({reading_.serial, reading_.files[row], kReadToView, reading_.temporaryFolder},
                      progress_.jobView());
     if (fetched.result == kCardOk) {
       resetWaveOpenRequest();

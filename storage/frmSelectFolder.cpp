@@ -46,7 +46,7 @@ frmSelectFolder::frmSelectFolder(QWidget* parent) : QDialog(parent), drives_(cur
   buildControls();
   buildLayout();
   const std::string start = startFolder(gDefaultFolder);
-  Drive1_->setCurrentIndex(static_cast<int>(driveOf(drives_, start)));
+  Drive1_->setCurrentIndex(driveOf(drives_, start));
   showPath(start);
   connectControls();
   centreOnScreen(*this);
@@ -103,13 +103,13 @@ QTreeWidgetItem* frmSelectFolder::fill(QTreeWidgetItem* item, const std::string&
   item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
   const FolderRows rows = folderRows(pathOf(*item), open);
   for (const auto& path : rows.paths) item->addChild(folderItem(path));
-  return item->child(static_cast<int>(rows.opened));
+  return item->child(rows.opened);
 }
 
 void frmSelectFolder::showPath(const std::string& path) {
   const QSignalBlocker quiet(Dir1_);
   Dir1_->clear();
-  const auto drive = drives_[static_cast<std::size_t>(Drive1_->currentIndex())];
+  const auto drive = drives_[Drive1_->currentIndex()];
   const auto chain = folderChain(drive, path);
   auto* item = folderItem(chain.front());
   Dir1_->addTopLevelItem(item);
@@ -132,9 +132,9 @@ void frmSelectFolder::Dir1_Change(QTreeWidgetItem* item) {
 }
 
 void frmSelectFolder::Drive1_Change(int index) {
-  const auto path = pathAfterDrive(drives_[static_cast<std::size_t>(index)], path_);
+  const auto path = pathAfterDrive(drives_[index], path_);
   const QSignalBlocker quiet(Drive1_);
-  Drive1_->setCurrentIndex(static_cast<int>(driveOf(drives_, path)));
+  Drive1_->setCurrentIndex(driveOf(drives_, path));
   showPath(path);
 }
 

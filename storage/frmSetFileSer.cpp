@@ -37,9 +37,9 @@ void frmSetFileSer::buildControls() {
       named(new QTreeWidget(this), QStringLiteral("lvwFileName"), tr("Files to be saved"));
   lvwFileName_->setRootIsDecorated(false);
   lvwFileName_->setUniformRowHeights(true);
-  lvwFileName_->setColumnCount(static_cast<int>(kNamingColumns.size()));
+  lvwFileName_->setColumnCount(kNamingColumns.size());
   for (std::size_t i = 0; i < kNamingColumns.size(); ++i) {
-    const int column = static_cast<int>(i);
+    const int column = i;
     lvwFileName_->headerItem()->setText(column, toQt(kNamingColumns[i].title));
     lvwFileName_->setColumnWidth(column, toPixels(kNamingColumns[i].twips));
   }
@@ -125,7 +125,7 @@ void frmSetFileSer::showRows() {
   while (lvwFileName_->topLevelItemCount() < static_cast<int>(list_.rows.size()))
     lvwFileName_->addTopLevelItem(new QTreeWidgetItem);
   for (std::size_t row = 0; row < list_.rows.size(); ++row) {
-    auto* item = lvwFileName_->topLevelItem(static_cast<int>(row));
+    auto* item = lvwFileName_->topLevelItem(row);
     item->setText(0, toQt(list_.rows[row].fileName));
     item->setText(1, toQt(list_.rows[row].series));
   }
@@ -133,7 +133,7 @@ void frmSetFileSer::showRows() {
 
 void frmSetFileSer::takeRow(int row) {
   if (row < 0) return;
-  const NamingEdit edit = selectNamingRow(list_, static_cast<std::size_t>(row));
+  const NamingEdit edit = selectNamingRow(list_, row);
   txtFileName_->setText(toQt(edit.name));
   if (!edit.series.empty()) txtSerName_->setText(toQt(edit.series));
 }

@@ -56,7 +56,7 @@ std::vector<CardEntry> confirmHeaders(int32_t serial, const std::vector<CardFile
       entry.seriesText = header[kSeries];
       entry.latin1 = !isUtf8(text);
     }
-    view.tellProgress(static_cast<double>(files.size()) / static_cast<double>(directory.size()));
+    view.tellProgress(static_cast<double>(files.size()) / directory.size());
     if (!view.yield()) break;
   }
   return files;

@@ -71,7 +71,7 @@ class Transfer {
     const int64_t blocks = what_.file.size / kBlockBytes;
     const int64_t block = read_ / kBlockBytes - 1;
     if (block < 0) return;
-    view_.tellProgress(static_cast<double>(block) / static_cast<double>(blocks));
+    view_.tellProgress(static_cast<double>(block) / blocks);
   }
   std::string dataPath() const { return fetched_.stem + ".dat"; }
   std::string headerPath() const { return fetched_.stem + ".hed"; }
@@ -129,7 +129,7 @@ bool Transfer::fetchBlocks() {
   while (read_ < what_.file.size) {
     const int64_t rest = what_.file.size - read_;
     if (!readNext()) return keepPartialData();
-    if (!store(static_cast<std::size_t>(std::min<int64_t>(rest, kBlockBytes)))) return false;
+    if (!store(std::min<int64_t>(rest, kBlockBytes))) return false;
     if (rest < kBlockBytes) continue;
     progressOfBlocks();
     if (yield()) continue;
@@ -145,8 +145,7 @@ bool Transfer::readNext() {
   const bool whole = rest >= kBlockBytes;
   const int64_t asked =
       whole ? kBlockBytes : (rest + kTransferUnit - 1) / kTransferUnit * kTransferUnit;
-  const int32_t count =
-      usbReadBlock(what_.serial, block_->bytes.data(), static_cast<int32_t>(asked));
+  const int32_t count = usbReadBlock(what_.serial, block_->bytes.data(), asked);
   // Of the last one a count of 0 passes: what the buffer holds then is written.
   if (count < (whole ? 1 : 0)) return false;
   read_ += std::min(rest, asked);

@@ -62,7 +62,7 @@ class Output {
     end_ = end;
     if (end_ < limit()) return kFileOk;
     const auto error = writer_.write(bytes_.get(), kBlock);
-    const auto rest = static_cast<std::size_t>(end_ - limit());
+    const std::size_t rest = end_ - limit();
     std::memcpy(bytes_.get(), limit(), rest);
     end_ = bytes_.get() + rest;
     return error;
@@ -77,7 +77,7 @@ class Output {
     return kFileOk;
   }
   [[nodiscard]] int32_t commit(bool flush) {
-    const auto rest = static_cast<std::size_t>(end_ - bytes_.get());
+    const std::size_t rest = end_ - bytes_.get();
     if (const auto error = writer_.write(bytes_.get(), rest)) return error;
     return flush ? writer_.commit() : writer_.commitUnflushed();
   }
@@ -104,8 +104,7 @@ class Conversion {
         lines_(slopesOf(job.header), job.options.scaled),
         output_(lines_.lineRoom()) {
     for (int i = 0; i < kMarks; ++i) {
-      marks_[static_cast<std::size_t>(i)] =
-          roundWhole(static_cast<double>(samples_) / kMarks * (i + 1) - 2);
+      marks_[i] = roundWhole(static_cast<double>(samples_) / kMarks * (i + 1) - 2);
     }
   }
 
@@ -122,7 +121,7 @@ class Conversion {
 
  private:
   bool convert() {
-    const auto frame = static_cast<std::size_t>(frameBytes(job_.header));
+    const std::size_t frame = frameBytes(job_.header);
     if (!fileDone(source_.open(job_.source, frame), job_.source)) return false;
     if (!beginFile(job_.options.division ? 1 : 0, job_.askFirst)) return false;
     lastYield_ = desktop().milliseconds();
@@ -211,7 +210,7 @@ bool Conversion::writeLines(int64_t stop) {
     const auto wanted = std::min(source_.count(), static_cast<std::size_t>(stop - sample_));
     const auto written = lines_.write(output_.end(), output_.limit(), source_.frames(), wanted);
     source_.take(written.lines);
-    sample_ += static_cast<int64_t>(written.lines);
+    sample_ += written.lines;
     if (!fileDone(output_.wroteTo(written.end), path_)) return false;
     if (desktop().milliseconds() - lastYield_ >= kYieldMilliseconds && !yield()) return false;
   }

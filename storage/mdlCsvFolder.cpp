@@ -114,7 +114,7 @@ std::vector<CardEntry> recordingsIn(const std::string& folder) {
     std::error_code error;
     const auto headerSize = fs::file_size(withBackslash(folder) + header->second, error);
     if (error) break;
-    entry.headerSize = static_cast<int64_t>(headerSize);
+    entry.headerSize = headerSize;
     entry.headerSizeText = textOf(entry.headerSize);
   }
   return files;
