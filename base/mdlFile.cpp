@@ -2,18 +2,23 @@
 #include "base/mdlFile.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <charconv>
 #include <climits>
+#include <csignal>
 #include <limits>
+#include <map>
 #include <new>
 #include <stdexcept>
 #include <system_error>
 #include <tuple>
+#include <utility>
 
 #include "base/mdlText.h"
 
@@ -26,6 +31,7 @@ namespace {
 constexpr uint64_t kWriteBackStep = 8u << 20;
 constexpr std::size_t kReadBlock = 256u << 10;
 constexpr int kTemporaryTries = 100;
+constexpr std::string_view kTemporaryEnd = ".tmp";
 constexpr mode_t kPermissionBits = 0777;
 
 int32_t lastError() {
@@ -88,8 +94,83 @@ fs::path temporaryName(const fs::path& target) {
   static std::atomic<unsigned> counter{0};
   auto stem = target.filename().native();
   stem.resize(std::min<std::size_t>(stem.size(), NAME_MAX - 40));
-  return folderOf(target) /
-         ("." + stem + "." + std::to_string(::getpid()) + "-" + std::to_string(counter++) + ".tmp");
+  auto name = "." + stem + "." + std::to_string(::getpid()) + "-" + std::to_string(counter++);
+  return folderOf(target) / name.append(kTemporaryEnd);
+}
+
+/// The process that gave a file such a name, 0 for any other name.
+pid_t temporaryOwner(std::string_view name) {
+  if (!name.starts_with('.') || !name.ends_with(kTemporaryEnd)) return 0;
+  name.remove_suffix(kTemporaryEnd.size());
+  const char* const end = name.data() + name.size();
+  pid_t owner = 0;
+  unsigned number = 0;
+  const auto dash = std::from_chars(name.data() + name.rfind('.') + 1, end, owner);
+  if (dash.ec != std::errc() || dash.ptr == end || *dash.ptr != '-') return 0;
+  const auto last = std::from_chars(dash.ptr + 1, end, number);
+  return last.ec == std::errc() && last.ptr == end ? std::max(owner, 0) : 0;
+}
+
+bool isAlive(pid_t process) {
+  return ::kill(process, 0) == 0 || errno == EPERM;
+}
+
+/// Removes a temporary file that nobody writes any more. Its writer holds a lock on it: a process
+/// of that number may run on another machine, or in another container.
+void removeLeftOver(const fs::path& file) {
+  struct stat status {};
+  if (::lstat(file.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return;
+  if (status.st_uid != ::geteuid()) return;
+  const Descriptor descriptor(openRetrying(file.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK));
+  if (descriptor.get() < 0 || ::flock(descriptor.get(), LOCK_EX | LOCK_NB) != 0) return;
+  ::unlink(file.c_str());
+}
+
+void sweep(const fs::path& folder) {
+  std::error_code error;
+  fs::directory_iterator entries(folder, error);
+  for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
+    const auto owner = temporaryOwner(entries->path().filename().native());
+    // Nothing of this process is in a folder that it has not written to yet: its own number is
+    // that of a process before it.
+    if (owner > 0 && (owner == ::getpid() || !isAlive(owner))) removeLeftOver(entries->path());
+  }
+}
+
+int openNameless(const fs::path& folder, mode_t mode) {
+  return openRetrying(folder.c_str(), O_WRONLY | O_TMPFILE, mode);
+}
+
+int openTemporary(const fs::path& target, mode_t mode, fs::path& name) {
+  int descriptor = -1;
+  for (int attempt = 0; descriptor < 0 && attempt < kTemporaryTries; ++attempt) {
+    name = temporaryName(target);
+    descriptor = openRetrying(name.c_str(), O_WRONLY | O_CREAT | O_EXCL, mode);
+    if (descriptor < 0 && errno != EEXIST) return descriptor;
+  }
+  if (descriptor >= 0) std::ignore = ::flock(descriptor, LOCK_EX | LOCK_NB);
+  return descriptor;
+}
+
+bool linkTo(int descriptor, const fs::path& name) {
+  const auto self = "/proc/self/fd/" + std::to_string(descriptor);
+  return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
+}
+
+/// Can a file in `target`'s folder be written first and named then? Asked at this process's first
+/// write there, which sweeps the folder, too.
+bool canNameLater(const fs::path& target) {
+  static std::map<fs::path, bool> known;
+  const fs::path folder = folderOf(target);
+  if (const auto found = known.find(folder); found != known.end()) return found->second;
+  std::error_code ignored;
+  if (!fs::is_directory(folder, ignored)) return false;
+  sweep(folder);
+  const Descriptor descriptor(openNameless(folder, 0600));
+  const auto name = temporaryName(target);
+  const bool linked = descriptor.get() >= 0 && linkTo(descriptor.get(), name);
+  if (linked) ::unlink(name.c_str());
+  return known[folder] = linked;
 }
 
 /// May the file that stands under the target's name be replaced? `exists` tells whether one does.
@@ -114,7 +195,7 @@ int32_t syncDescriptor(int descriptor) {
 /// Makes a rename durable. Some file systems cannot sync a folder; the file itself is whole then.
 void syncFolder(const fs::path& folder) {
   const Descriptor descriptor(openRetrying(folder.c_str(), O_RDONLY | O_DIRECTORY));
-  if (descriptor.get() >= 0) (void)syncDescriptor(descriptor.get());
+  if (descriptor.get() >= 0) std::ignore = syncDescriptor(descriptor.get());
 }
 
 int32_t readAll(int descriptor, std::size_t limit, std::string& bytes) {
@@ -201,15 +282,13 @@ int32_t FileWriter::open(const fs::path& target) {
   bool exists = false;
   mode_t mode = 0666;
   if (const auto error = checkTarget(target_, exists, mode)) return error_ = error;
-  for (int attempt = 0; descriptor_ < 0 && attempt < kTemporaryTries; ++attempt) {
-    temporary_ = temporaryName(target_);
-    descriptor_ = openRetrying(temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL, mode);
-    if (descriptor_ < 0 && errno != EEXIST) break;
-  }
+  name_.clear();
+  if (canNameLater(target_)) descriptor_ = openNameless(folderOf(target_), mode);
+  if (descriptor_ < 0) descriptor_ = openTemporary(target_, mode, name_);
   if (descriptor_ < 0) return error_ = openError(target_);
   // Gives back what the creation mask took. Where a file system refuses, the file stays less open
   // than the one it replaces, never more.
-  if (exists) (void)::fchmod(descriptor_, mode);
+  if (exists) std::ignore = ::fchmod(descriptor_, mode);
   return error_ = kFileOk;
 }
 
@@ -231,8 +310,8 @@ int32_t FileWriter::write(const void* bytes, std::size_t count) {
   // The disk starts on what is there while more is fetched, so that commit() has little to wait
   // for.
   while (error_ == kFileOk && written_ - flushed_ >= kWriteBackStep) {
-    (void)::sync_file_range(descriptor_, static_cast<off_t>(flushed_),
-                            static_cast<off_t>(kWriteBackStep), SYNC_FILE_RANGE_WRITE);
+    std::ignore = ::sync_file_range(descriptor_, static_cast<off_t>(flushed_),
+                                    static_cast<off_t>(kWriteBackStep), SYNC_FILE_RANGE_WRITE);
     flushed_ += kWriteBackStep;
   }
   return error_;
@@ -246,30 +325,45 @@ int32_t FileWriter::prepare() {
 }
 
 int32_t FileWriter::commit() {
-  if (descriptor_ < 0) return error_ == kFileOk ? kFileOther : error_;
-  std::ignore = prepare();  // the naming below tells its failure
-  if (const auto error = giveName()) return error;
+  const bool open = isOpen();
+  const auto error = prepare();
+  if (!open) return error;
+  if (giveName() != kFileOk) return error_;
   syncFolder(folderOf(target_));
   return kFileOk;
 }
 
 int32_t FileWriter::commitUnflushed() {
   if (descriptor_ < 0) return error_ == kFileOk ? kFileOther : error_;
-  (void)::sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
+  std::ignore = ::sync_file_range(descriptor_, 0, 0, SYNC_FILE_RANGE_WRITE);
   return giveName();
 }
 
-int32_t FileWriter::giveName() {
-  const int descriptor = descriptor_;
-  descriptor_ = -1;
-  if (::close(descriptor) != 0 && errno != EINTR && error_ == kFileOk) error_ = lastError();
-  if (error_ == kFileOk && ::rename(temporary_.c_str(), target_.c_str()) != 0) {
+/// A new file gets its own name at once. One that replaces another needs a temporary one for a
+/// moment: only a rename replaces.
+void FileWriter::nameLater() {
+  if (linkTo(descriptor_, target_)) return;
+  for (int attempt = 0; errno == EEXIST && attempt < kTemporaryTries; ++attempt) {
+    const auto name = temporaryName(target_);
+    if (!linkTo(descriptor_, name)) continue;
+    if (::rename(name.c_str(), target_.c_str()) == 0) return;
     error_ = lastError();
+    ::unlink(name.c_str());
+    return;
   }
-  if (error_ != kFileOk) {
-    ::unlink(temporary_.c_str());
-    return error_;
+  error_ = lastError();
+}
+
+int32_t FileWriter::giveName() {
+  if (error_ == kFileOk && name_.empty()) nameLater();
+  const int descriptor = std::exchange(descriptor_, -1);
+  const bool closed = ::close(descriptor) == 0 || errno == EINTR;
+  if (!name_.empty()) {
+    if (error_ == kFileOk && !closed) error_ = lastError();
+    if (error_ == kFileOk && ::rename(name_.c_str(), target_.c_str()) != 0) error_ = lastError();
+    if (error_ != kFileOk) ::unlink(name_.c_str());
   }
+  if (error_ != kFileOk) return error_;
   error_ = kFileOther;  // nothing is open any more
   return kFileOk;
 }
@@ -277,7 +371,7 @@ int32_t FileWriter::giveName() {
 void FileWriter::discard() {
   if (descriptor_ >= 0) {
     ::close(descriptor_);
-    ::unlink(temporary_.c_str());
+    if (!name_.empty()) ::unlink(name_.c_str());
     descriptor_ = -1;
   }
   written_ = 0;

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Files. Text files have CR LF line ends. A file is written to a temporary name beside its target,
-// flushed to disk and renamed, so that a crash or a full disk leaves the old file whole. Only a
-// writer of many new files puts the flush off to the last of them.
+// Files. Text files have CR LF line ends. A file is written without a name in its target's folder,
+// flushed to disk and then named, so that a crash or a full disk leaves the old file whole and
+// nothing beside it. Where the file system knows no files without a name it has a hidden temporary
+// one; what a killed program left of these goes when the next one first writes in that folder.
+// Only a writer of many new files puts the flush off to the last of them.
 #pragma once
 
 #include <cstddef>
@@ -38,11 +40,10 @@ class FileWriter {
   /// The bytes written, all or an error; after an error every further call fails the same way.
   [[nodiscard]] int32_t write(const void* bytes, std::size_t count);
   [[nodiscard]] int32_t write(std::string_view text) { return write(text.data(), text.size()); }
-  /// Flushes to disk: all that can still fail before the file gets its name. Two files that belong
-  /// together are both prepared and then named one right behind the other.
+  /// Flushes to disk all but the name: commit() then only names, so that several files can get
+  /// their names one right behind the other.
   [[nodiscard]] int32_t prepare();
-  /// Gives the file its name, prepared if it is not yet. Also used to keep a partial file on
-  /// purpose.
+  /// Flushes to disk and gives the file its name. Also used to keep a partial file on purpose.
   [[nodiscard]] int32_t commit();
   /// The same without waiting for the disk: the file stands whole under its name for whoever
   /// looks, and the disk has begun to write it. Until flushFolder() a crash of the system may lose
@@ -53,6 +54,7 @@ class FileWriter {
   bool isOpen() const { return descriptor_ >= 0; }
 
  private:
+  void nameLater();
   int32_t giveName();
 
   int descriptor_ = -1;
@@ -61,7 +63,8 @@ class FileWriter {
   uint64_t written_ = 0;
   uint64_t flushed_ = 0;
   std::filesystem::path target_;
-  std::filesystem::path temporary_;
+  bool prepared_ = false;
+  std::filesystem::path name_;  // the temporary one, empty for none
 };
 
 /// Flushes all that was written to the folder's file system, contents and names.

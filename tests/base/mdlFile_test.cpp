@@ -1,18 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "base/mdlFile.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <sched.h>
+#include <sys/file.h>
 #include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
+#include <cstddef>
 #include <functional>
+#include <iterator>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include "tests/support/data_folder.h"
@@ -49,6 +58,18 @@ int asOrdinaryUser(const std::function<int()>& work) {
   });
 }
 
+/// This process cannot give a file its name after it was written any more, as on a file system that
+/// knows no files without a name.
+bool refuseLinks() {
+  sock_filter steps[] = {BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+                         BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, __NR_linkat, 0, 1),
+                         BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EPERM),
+                         BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+  const sock_fprog program = {std::size(steps), steps};
+  return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+         ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
 /// Files of this process cannot grow beyond `bytes`: a write over the limit is cut short and the
 /// next one fails, as on a full disk. Gives back the limit that stood before.
 rlim_t limitFiles(rlim_t bytes) {
@@ -81,7 +102,7 @@ class File : public ::testing::Test {
 TEST_F(File, ATinyFileSystemThatIsFullLeavesTheOldFileWhole) {
   const int result = inChild([&] {
     if (::unshare(CLONE_NEWNS) != 0) return kChildCannot;  // only the superuser may mount
-    (void)::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
+    std::ignore = ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
     if (::mount("none", folder_.c_str(), "tmpfs", 0, "size=64k") != 0) return kChildCannot;
     if (vk::writeWholeFile(folder_ / "A.dat", "old") != vk::kFileOk) return 1;
     if (vk::writeWholeFile(folder_ / "A.dat", std::string(100000, 'x')) != vk::kFileOther) return 2;
@@ -206,7 +227,7 @@ TEST_F(File, NothingStandsUnderTheNameWithoutACommit) {
   ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
   EXPECT_TRUE(writer.isOpen());
   EXPECT_EQ(writer.write("part"), vk::kFileOk);
-  EXPECT_EQ(listing(folder_).rfind(".A.dat.", 0), 0u) << listing(folder_);
+  EXPECT_FALSE(fs::exists(folder_ / "A.dat"));
   EXPECT_EQ(writer.commit(), vk::kFileOk);
   EXPECT_FALSE(writer.isOpen());
   EXPECT_EQ(writer.commit(), vk::kFileOther);
@@ -220,14 +241,92 @@ TEST_F(File, NothingStandsUnderTheNameWithoutACommit) {
     ASSERT_EQ(other.open(folder_ / "C.dat"), vk::kFileOk);
   }
   EXPECT_EQ(contents("A.dat") + listing(folder_), "partA.dat");
+}
 
-  EXPECT_EQ(inChild([&] {
-              if (writer.open(folder_ / "A.dat") == vk::kFileOk && writer.write("x") == vk::kFileOk)
-                ::raise(SIGKILL);
-              return 1;
-            }),
-            -1);
-  EXPECT_EQ(contents("A.dat"), "part");
+// The folder of each row is new to the process that writes to it.
+TEST_F(File, AKilledWriterLeavesTheOldFileAndNoRubbish) {
+  for (const bool named : {false, true}) {
+    const std::string name = named ? "named" : "nameless";
+    put(name + "/A.dat", "old");
+    const auto kill = [&] {
+      vk::FileWriter writer;
+      if (named && !refuseLinks()) return kChildCannot;
+      if (writer.open(folder_ / name / "A.dat") == 0 && writer.write("x") == 0) ::raise(SIGKILL);
+      return 1;
+    };
+    const auto killed = inChild(kill);
+    if (killed == kChildCannot) GTEST_SKIP() << "no system call can be refused here";
+    EXPECT_EQ(killed, -1);
+    EXPECT_EQ(contents(name + "/A.dat"), "old");
+    EXPECT_TRUE(!named || listing(folder_ / name).rfind(".A.dat.", 0) == 0);
+    EXPECT_EQ(vk::writeWholeFile(folder_ / name / "B.dat", "new"), vk::kFileOk);
+    EXPECT_EQ(listing(folder_ / name), "A.dat B.dat");
+  }
+}
+
+TEST_F(File, WritesWhereAFileIsNamedFromTheBeginning) {
+  put("A.dat", "old");
+  const auto written = inChild([&] {
+    if (!refuseLinks()) return kChildCannot;
+    vk::FileWriter writer;
+    if (writer.open(folder_ / "A.dat") + writer.write("new") != vk::kFileOk) return 1;
+    if (writer.commit() != vk::kFileOk || contents("A.dat") != "new") return 2;
+    if (writer.open(folder_ / "B.dat") + writer.write("x") != vk::kFileOk) return 3;
+    if (listing(folder_).rfind(".B.dat.", 0) != 0) return 4;
+    writer.discard();
+    return listing(folder_) == "A.dat" ? 0 : 5;
+  });
+  if (written == kChildCannot) GTEST_SKIP() << "no system call can be refused here";
+  EXPECT_EQ(written, 0);
+}
+
+TEST_F(File, SweepsOnlyWhatDeadProcessesLeft) {
+  const auto dead = ::fork();
+  if (dead == 0) ::_exit(0);
+  ::waitpid(dead, nullptr, 0);
+  const auto left = "." + std::to_string(dead) + "-";
+  for (const auto& name : {"." + left + "0.tmp", ".A.dat" + left + "12.tmp",
+                           ".own." + std::to_string(::getpid()) + "-0.tmp"}) {
+    put(name, "rubbish");
+  }
+  std::set<std::string> kept = {".alive.1-0.tmp",
+                                ".zero.0-0.tmp",
+                                "A.dat" + left + "0.tmp",
+                                ".A.dat" + left + ".tmp",
+                                ".A.dat" + left + "0.tmp2",
+                                ".A.dat" + left + "0x.tmp",
+                                ".A.dat." + left + "-0.tmp",
+                                ".locked" + left + "0.tmp"};
+  for (const auto& name : kept) put(name, "kept");
+  kept.insert({".folder" + left + "0.tmp", ".link" + left + "0.tmp", "new"});
+  fs::create_directory(folder_ / (".folder" + left + "0.tmp"));
+  fs::create_symlink("new", folder_ / (".link" + left + "0.tmp"));
+  const int lock = ::open((folder_ / (".locked" + left + "0.tmp")).c_str(), O_RDONLY);
+  ASSERT_EQ(::flock(lock, LOCK_EX), 0);
+
+  EXPECT_EQ(vk::writeWholeFile(folder_ / "new", "x"), vk::kFileOk);
+  ::close(lock);
+  std::string text;
+  for (const auto& name : kept) text += (text.empty() ? "" : " ") + name;
+  EXPECT_EQ(listing(folder_), text);
+}
+
+TEST_F(File, APreparedFileOnlyWaitsForItsName) {
+  vk::FileWriter writer;
+  EXPECT_EQ(writer.prepare(), vk::kFileOther);
+  ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
+  EXPECT_EQ(writer.write("whole") + writer.prepare(), vk::kFileOk);
+  EXPECT_FALSE(fs::exists(folder_ / "A.dat"));
+  EXPECT_EQ(writer.commit(), vk::kFileOk);
+  EXPECT_EQ(contents("A.dat"), "whole");
+
+  ASSERT_EQ(writer.open(folder_ / "A.dat"), vk::kFileOk);
+  const auto unlimited = limitFiles(1);
+  EXPECT_EQ(writer.write("xy"), vk::kFileOther);
+  limitFiles(unlimited);
+  EXPECT_EQ(writer.prepare(), vk::kFileOther);
+  EXPECT_EQ(writer.commit(), vk::kFileOther);
+  EXPECT_EQ(contents("A.dat") + listing(folder_), "wholeA.dat");
 }
 
 TEST_F(File, AFlushMayComeLater) {
