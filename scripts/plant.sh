@@ -1,6 +1,6 @@
 #!/bin/sh
 # Plants faults into a copy of the sources, one after the other, and counts those that the tests
-# catch: plant.sh [--only part-of-a-name]
+# catch: plant.sh [--only pattern-of-names]
 # A fault is a small patch in tests/plants/, named by its subject. Its first lines say what a user
 # would see and "visible: yes" or "visible: no". The copy and its build stand in build/plants/ and
 # are kept for the next time, with a log of each fault. Fails when fewer than nine in ten of the
@@ -17,9 +17,9 @@ programs='vk_logic_tests vk_sim_tests vk_window_tests'
 only=
 case ${1:-} in
 '') ;;
---only) only=${2:?plant.sh --only part-of-a-name} ;;
+--only) only=${2:?plant.sh --only pattern} ;;
 *)
-  echo "plant.sh [--only part-of-a-name]" >&2
+  echo "plant.sh [--only pattern]" >&2
   exit 2
   ;;
 esac
@@ -119,7 +119,7 @@ trap 'exit 130' INT TERM
 count=0 caught=0 visible=0 visible_caught=0
 for plant in "$root"/tests/plants/*.patch; do
   name=$(basename "$plant" .patch)
-  case $name in *"$only"*) ;; *) continue ;; esac
+  printf '%s\n' "$name" | grep -qE -- "$only" || continue
   outcome=missed
   witness=
   try "$plant" >"$logs/$name.log" 2>&1
