@@ -63,7 +63,6 @@ class FileWriter {
   uint64_t written_ = 0;
   uint64_t flushed_ = 0;
   std::filesystem::path target_;
-  bool prepared_ = false;
   std::filesystem::path name_;  // the temporary one, empty for none
 };
 
