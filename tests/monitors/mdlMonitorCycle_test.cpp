@@ -151,7 +151,7 @@ TEST_F(MonitorCycle, ABoxThatTheStatusPollHasLostLosesItsMonitors) {
   on(MonitorKind::kXY, 0, {100, 200}, {1, 1});
   vk::monitorCycle();
   log.clear();
-  for (const int32_t handle : {0, -1, -1001}) {
+  for (const int32_t handle : {-1, -1001}) {
     vk::gBoxTable[2].handle = handle;
     library().takeTranscript();
     vk::monitorCycle();
