@@ -27,10 +27,10 @@ struct Decimal {
   /// The digit that stands for 10^power.
   char at(int power) const {
     const int index = exponent - power;
-    return index >= 0 && index < count ? digits[static_cast<std::size_t>(index)] : '0';
+    return index >= 0 && index < count ? digits[index] : '0';
   }
   void dropZeros() {
-    while (count > 0 && digits[static_cast<std::size_t>(count - 1)] == '0') --count;
+    while (count > 0 && digits[count - 1] == '0') --count;
     if (count == 0) exponent = 0;
   }
 };
@@ -56,7 +56,7 @@ Decimal decimalOf(double value, int significant) {
                                  std::chars_format::scientific, significant - 1);
   const char* const mark = std::find(text.data(), end.ptr, 'e');
   for (const char* c = text.data(); c != mark; ++c) {
-    if (*c != '.') decimal.digits[static_cast<std::size_t>(decimal.count++)] = *c;
+    if (*c != '.') decimal.digits[decimal.count++] = *c;
   }
   const char* const power = mark + (mark[1] == '+' ? 2 : 1);
   std::from_chars(power, end.ptr, decimal.exponent);
@@ -74,7 +74,7 @@ Decimal decimalOf(float value) {
   const double magnitude = std::abs(static_cast<double>(value));
   if (!(magnitude < 1e7)) return decimalOf(static_cast<double>(value), kSingleDigits);
   for (int shift = 0; shift < static_cast<int>(kPowers.size()); ++shift) {
-    const double scaled = magnitude * kPowers[static_cast<std::size_t>(shift)];
+    const double scaled = magnitude * kPowers[shift];
     if (scaled < 1e6) continue;
     Decimal decimal = decimalOfWhole(static_cast<uint64_t>(std::llrint(scaled)), value < 0);
     decimal.exponent -= shift;
@@ -173,16 +173,16 @@ NumberFormat parseFormat(std::string_view format) {
 Decimal roundedAt(Decimal decimal, int lowest) {
   const int keep = decimal.exponent - lowest + 1;
   if (decimal.zero() || keep >= decimal.count) return decimal;
-  const bool up = keep >= 0 && decimal.digits[static_cast<std::size_t>(keep)] >= '5';
+  const bool up = keep >= 0 && decimal.digits[keep] >= '5';
   decimal.count = std::max(keep, 0);
   if (up) {
     int last = decimal.count - 1;
-    while (last >= 0 && decimal.digits[static_cast<std::size_t>(last)] == '9') --last;
+    while (last >= 0 && decimal.digits[last] == '9') --last;
     if (last < 0) {
       ++decimal.exponent;
       decimal.digits[0] = '1';
     } else {
-      ++decimal.digits[static_cast<std::size_t>(last)];
+      ++decimal.digits[last];
     }
     decimal.count = std::max(last, 0) + 1;
   }

@@ -125,7 +125,7 @@ bool toChars(const Recording& recording) {
   std::FILE* in = std::fopen(recording.data().c_str(), "rb");
   std::FILE* out = std::fopen(recording.csv().c_str(), "wb");
   if (!in || !out) return false;
-  std::vector<int16_t> frames(kSeries * 16384);
+  std::vector<int16_t> frames(std::size_t{kSeries} * 16384);
   std::string text(kBlock, '\0');
   char* next = text.data();
   int line = 0;

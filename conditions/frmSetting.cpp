@@ -66,21 +66,20 @@ bool openMeasureSetting(int32_t serial, QWidget* parent, QTimer& tmrStatus) {
 frmSetting::frmSetting(int32_t serial, QWidget* parent)
     : QDialog(parent), linkBusy_(gUSBBusy), guard_({}, {}) {
   build();
-  open(serial);
+  takeBox(serial);
   centreOnScreen(*this);
 }
 
-void frmSetting::open(int32_t serial) {
+void frmSetting::takeBox(int32_t serial) {
   const FlagGuard lock(listsLocked_);
   lblSerNum_->setText(serial == kNoSerial ? tr("---") : toQt(serialText(serial)));
   lblSerNumDmy_->setText(toQt(vk::textOf(serial)));
   const int32_t found = slotIndexOf(serial);
   const int32_t slot = found > 0 ? found : kFileRow;
-  modelOfDialog_ = found > 0 ? gBoxTable[static_cast<std::size_t>(found)].model : kNoModel;
+  modelOfDialog_ = found > 0 ? gBoxTable[found].model : kNoModel;
   lblMeter_->setText(found > 0 ? toQt(textAt(modelName, modelOfDialog_)) : tr("---"));
   fillFixedLists();
-  for (std::size_t i = 1; i <= kChannels; ++i)
-    fillRange(i, gBoxTable[static_cast<std::size_t>(slot)].carrier[i]);
+  for (std::size_t i = 1; i <= kChannels; ++i) fillRange(i, gBoxTable[slot].carrier[i]);
   showRecord(slot);
   if (found > 0) showBalance(slot);
 }
@@ -106,7 +105,7 @@ void frmSetting::fillRange(std::size_t channel, int32_t carrier) {
 
 // The dialog stays one for its own box and model, whatever row is shown.
 void frmSetting::showRecord(int32_t slot) {
-  const MeasureSetting& record = gBoxTable[static_cast<std::size_t>(slot)];
+  const MeasureSetting& record = gBoxTable[slot];
   selectPosition(*cmbChannelMode_, record.channelMode);
   const ConditionChoice wanted{choice().mode, record.sampling, record.dataSize, record.preArea};
   const ConditionChoice now = refillAll(wanted, modelOfDialog_);
@@ -140,7 +139,7 @@ void frmSetting::showRecord(int32_t slot) {
 }
 
 void frmSetting::showBalance(int32_t slot) {
-  const auto balance = fetchBalance(gBoxTable[static_cast<std::size_t>(slot)]);
+  const auto balance = fetchBalance(gBoxTable[slot]);
   if (!balance) return;
   for (std::size_t i = 1; i <= kChannels; ++i) {
     selectPosition(*channels_[i].cmbBalSet, (*balance)[i]);

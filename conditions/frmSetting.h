@@ -78,7 +78,7 @@ class frmSetting : public QDialog {
   void connectControls();
   void guardFields();
 
-  void open(int32_t serial);
+  void takeBox(int32_t serial);
   void fillFixedLists();
   void fillRange(std::size_t channel, int32_t carrier);
   void showRecord(int32_t slot);

@@ -161,7 +161,7 @@ QGroupBox* frmSetting::buildAmplifier() {
   auto* box = new QGroupBox(tr("Amplifier"), this);
   auto* grid = channelGrid(box);
   for (int i = 1; i <= kChannels; ++i) {
-    Channel& channel = channels_[static_cast<std::size_t>(i)];
+    Channel& channel = channels_[i];
     const auto add = [&](const char* name, const QString& what, int characters, int column) {
       auto* list = addList(box, elementName(name, i), ofChannel(what, i), characters);
       grid->addWidget(list, i, column);
@@ -188,7 +188,7 @@ QGroupBox* frmSetting::buildTrigger() {
   auto* box = new QGroupBox(tr("Trigger"), this);
   auto* grid = channelGrid(box);
   for (int i = 1; i <= kChannels; ++i) {
-    Channel& channel = channels_[static_cast<std::size_t>(i)];
+    Channel& channel = channels_[i];
     channel.lblSlpCh = plainLabel(channelText(i), box, elementName("lblSlpCh", i));
     channel.cmbTrgSlopeSet =
         addList(box, elementName("cmbTrgSlopeSet", i), ofChannel(tr("Slope"), i), 5);
@@ -211,7 +211,7 @@ QGroupBox* frmSetting::buildUnit() {
   auto* box = new QGroupBox(tr("Unit and coefficient"), this);
   auto* grid = channelGrid(box);
   for (int i = 1; i <= kChannels; ++i) {
-    Channel& channel = channels_[static_cast<std::size_t>(i)];
+    Channel& channel = channels_[i];
     channel.lblCoeffCh = plainLabel(channelText(i), box, elementName("lblCoeffCh", i));
     channel.cmbUnit = addList(box, elementName("cmbUnit", i), ofChannel(tr("Unit"), i), 5);
     channel.txtCoeff = numberField(box, elementName("txtCoeff", i), ofChannel(tr("Coefficient"), i),

@@ -132,7 +132,7 @@ CommandTexts buildCommandTexts(const DialogControls& controls) {
 
 void storeRecord(int32_t slot, const MeasureSetting& record) {
   if (slot < 1 || slot > kFileRow) return;
-  gBoxTable[static_cast<std::size_t>(slot)].conditions() = record.conditions();
+  gBoxTable[slot].conditions() = record.conditions();
 }
 
 DialogEnable dialogEnable(int32_t model, int32_t mode, int32_t trigger,

@@ -18,7 +18,7 @@ bool sendConditions(const ConditionsToSend& send, const JobView& view) {
   if (usbCEF(send.serial, send.texts.coeff) != kUsbOk || !proceed(0.75)) return false;
   const int count = channelCount(send.channelMode);
   for (int channel = 1; channel <= count; ++channel) {
-    const int16_t balance = send.balance[static_cast<std::size_t>(channel)];
+    const int16_t balance = send.balance[channel];
     if (usbDMC(send.serial, channel, balance) != kUsbOk) return false;
   }
   return proceed(1.0);

@@ -233,8 +233,8 @@ void clsPictureBox::copy(const clsSurface& from, int x, int y, int width, int he
   for (int i = 0; i < rows; ++i) {
     // Within one picture the rows that move down are taken from below.
     const int row = shift.y() > 0 ? rows - 1 - i : i;
-    const auto to = static_cast<std::ptrdiff_t>(block.top() * ratio_ + row);
-    const auto at = static_cast<std::ptrdiff_t>((block.top() - shift.y()) * ratio_ + row);
+    const std::ptrdiff_t to = block.top() * ratio_ + row;
+    const std::ptrdiff_t at = (block.top() - shift.y()) * ratio_ + row;
     std::memmove(target + to * image_.bytesPerLine() + rowOffset,
                  origin + at * source.image_.bytesPerLine() + sourceOffset, bytes);
   }

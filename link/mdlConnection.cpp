@@ -62,7 +62,7 @@ bool takeStatus(MeasureSetting& row) {
   row.serial = staSerial();
   row.syncMode = staSyncMode();
   for (int channel = 1; channel <= kChannels; ++channel) {
-    row.balance[static_cast<std::size_t>(channel)] = staChFlag(channel);
+    row.balance[channel] = staChFlag(channel);
   }
   return takeState(row);
 }
@@ -96,7 +96,7 @@ ScanEnd scanBox(int32_t device, int32_t devices, bool allowUpgrade, const LogBox
     addLine(logBox, "VK-480Q is not connected.");
     return kStartNormal;
   }
-  auto& row = gBoxTable[static_cast<std::size_t>(device)];
+  auto& row = gBoxTable[device];
   row.handle = device;
   row.model = static_cast<int16_t>(model);
   if (usbProbeUpgrade(row.handle) < 0) {
@@ -176,7 +176,7 @@ bool pollStatus() {
 }
 
 void readBackState(int row) {
-  auto& box = gBoxTable[static_cast<std::size_t>(row)];
+  auto& box = gBoxTable[row];
   if (usbSTA(slotOf(box.serial)) >= 0) takeState(box);
 }
 

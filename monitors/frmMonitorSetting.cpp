@@ -72,7 +72,7 @@ void ColourArea::paintEvent(QPaintEvent*) {
 }
 
 void frmMonitorSetting::addColour(QFormLayout* form, const QString& label, int i,
-                                  Field<Colour> colour) {
+                                  const Field<Colour>& colour) {
   auto* holder = new QWidget(form->parentWidget());
   auto* row = new QHBoxLayout(holder);
   row->setContentsMargins(0, 0, 0, 0);
@@ -224,7 +224,7 @@ void frmMonitorSetting::addCaption(QFormLayout* form) {
 
 QComboBox* frmMonitorSetting::addScale(QFormLayout* form, const QString& label, const QString& name,
                                        std::span<const std::string_view> texts,
-                                       Field<float> number) {
+                                       const Field<float>& number) {
   constexpr float kUsual = 1000.0F;
   auto* list = addOpenList(form, label, name, texts, EntryRule::kScale);
   bind([=] { setText(*list, numberText(number(), kUsual)); },
@@ -235,7 +235,7 @@ QComboBox* frmMonitorSetting::addScale(QFormLayout* form, const QString& label, 
 QComboBox* frmMonitorSetting::addDialStart(QFormLayout* form, const QString& label,
                                            const QString& name,
                                            std::span<const std::string_view> texts,
-                                           Field<int32_t> number) {
+                                           const Field<int32_t>& number) {
   auto* list = addOpenList(form, label, name, texts, EntryRule::kDialStart);
   bind([=] { setText(*list, textOf(number())); },
        [=] {
@@ -245,7 +245,7 @@ QComboBox* frmMonitorSetting::addDialStart(QFormLayout* form, const QString& lab
 }
 
 QLineEdit* frmMonitorSetting::addLimit(QFormLayout* form, const QString& label, const QString& name,
-                                       Field<float> number, float fallback) {
+                                       const Field<float>& number, float fallback) {
   auto* edit = named(new QLineEdit(form->parentWidget()), name);
   form->addRow(label, edit);
   bind([=] { edit->setText(toQt(numberText(number(), fallback))); },
@@ -263,7 +263,7 @@ void frmMonitorSetting::addHiddenLimits(QFormLayout* form, int i, const Field<fl
   addLimit(form, {}, nameOf("txtDown", i), down, kLowerLimit);
 }
 
-QCheckBox* frmMonitorSetting::addCheck(QWidget* parent, int i, Field<bool> flag) {
+QCheckBox* frmMonitorSetting::addCheck(QWidget* parent, int i, const Field<bool>& flag) {
   auto* check =
       named(new QCheckBox(tr("&Enable abnormality display"), parent), nameOf("chkCaution", i));
   bind([=] { check->setChecked(flag()); }, [=] { flag() = check->isChecked(); });

@@ -96,17 +96,17 @@ class frmMonitorSetting : public QDialog {
     return list;
   }
   QComboBox* addScale(QFormLayout* form, const QString& label, const QString& name,
-                      std::span<const std::string_view> texts, Field<float> number);
+                      std::span<const std::string_view> texts, const Field<float>& number);
   QComboBox* addDialStart(QFormLayout* form, const QString& label, const QString& name,
-                          std::span<const std::string_view> texts, Field<int32_t> number);
+                          std::span<const std::string_view> texts, const Field<int32_t>& number);
   QLineEdit* addLimit(QFormLayout* form, const QString& label, const QString& name,
-                      Field<float> number, float fallback);
+                      const Field<float>& number, float fallback);
   /// Limits out of reach are not checked.
   void checkLimit(QLineEdit& edit);
   /// chkCaution.
-  QCheckBox* addCheck(QWidget* parent, int i, Field<bool> flag);
+  QCheckBox* addCheck(QWidget* parent, int i, const Field<bool>& flag);
   /// picColor(i) with its cmdColor(i).
-  void addColour(QFormLayout* form, const QString& label, int i, Field<Colour> colour);
+  void addColour(QFormLayout* form, const QString& label, int i, const Field<Colour>& colour);
   /// Gives the label of the row that was added last its name.
   void nameLabel(QFormLayout* form, const char* name);
   Colour colourOf(int i) const { return colours_.at(i)->backColor(); }

@@ -43,7 +43,7 @@ void forEachOpen(Work work) {
 }
 
 bool isLive(int32_t slot) {
-  return isBoxSlot(slot) && isConnected(gBoxTable[static_cast<std::size_t>(slot)]);
+  return isBoxSlot(slot) && isConnected(gBoxTable[slot]);
 }
 
 /// kFetchFailed or kFetchStale as soon as a box gives that, else 0.
@@ -65,7 +65,7 @@ int32_t fetchAll() {
 std::string_view readingOfSerial(int32_t serial, int32_t channel) {
   const int32_t slot = slotIndexOf(serial);
   if (!isLive(slot)) return kLostReading;
-  return readingOf(gMoniText[static_cast<std::size_t>(slot)], channel);
+  return readingOf(gMoniText[slot], channel);
 }
 
 void dispatch(MonitorKind kind, std::size_t index, MonitorWindow& window) {

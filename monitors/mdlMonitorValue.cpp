@@ -14,7 +14,7 @@ namespace {
 /// The record behind slot and channel; null when one of them does not exist.
 const MeasureSetting* boxOf(int32_t slot, int32_t channel) {
   if (!isBoxSlot(slot) || channel < 1 || channel > kChannels) return nullptr;
-  return &gBoxTable[static_cast<std::size_t>(slot)];
+  return &gBoxTable[slot];
 }
 
 }  // namespace
@@ -103,7 +103,7 @@ std::string channelLabel(int32_t channel) {
 std::string unitLabel(int32_t slot, int32_t channel) {
   const auto* box = boxOf(slot, channel);
   if (!box) return {};
-  const auto unit = static_cast<std::size_t>(box->unit[static_cast<std::size_t>(channel)]);
+  const auto unit = static_cast<std::size_t>(box->unit[channel]);
   return unit < unitName.size() ? std::string(unitName[unit]) : std::string();
 }
 

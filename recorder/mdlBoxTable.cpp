@@ -58,7 +58,7 @@ int32_t slotIndexOf(int32_t serial) {
 
 int32_t familyOf(int32_t serial) {
   const int32_t row = slotIndexOf(serial);
-  return row < 0 ? 0 : gBoxTable[static_cast<std::size_t>(row)].model;
+  return row < 0 ? 0 : gBoxTable[row].model;
 }
 
 std::array<bool, kBoxes + 1> takeChangedRows() {

@@ -12,7 +12,7 @@ int32_t findIndex(std::span<const std::string_view> table, std::string_view text
 
 std::string_view textAt(std::span<const std::string_view> table, int32_t index) {
   if (index < 0 || static_cast<std::size_t>(index) >= table.size()) return {};
-  return table[static_cast<std::size_t>(index)];
+  return table[index];
 }
 
 }  // namespace vk

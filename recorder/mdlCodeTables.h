@@ -40,8 +40,7 @@ inline constexpr auto chModeFile = std::to_array<std::string_view>({"1", "2", "4
 inline constexpr std::array<int, kModes> chModeCount{1, 2, 4};
 /// Of a record, which may hold nonsense: then all channels.
 inline constexpr int channelCount(int mode) {
-  return mode >= 0 && mode < kModes ? chModeCount[static_cast<std::size_t>(mode)]
-                                    : chModeCount.back();
+  return mode >= 0 && mode < kModes ? chModeCount[mode] : chModeCount.back();
 }
 
 // --- range ------------------------------------------------------------------------------------

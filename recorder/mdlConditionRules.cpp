@@ -25,12 +25,12 @@ constexpr float kCoeffMost = 9999999.0F;
 
 template <std::size_t N>
 int32_t rule(const RuleTable<N>& table, int32_t mode, int32_t index) {
-  return table[static_cast<std::size_t>(mode)][static_cast<std::size_t>(index)];
+  return table[mode][index];
 }
 
 template <typename T, std::size_t N>
 T valueAt(const std::array<T, N>& table, int32_t index) {
-  return table[static_cast<std::size_t>(index)];
+  return table[index];
 }
 
 std::vector<int32_t> indicesFromTo(int32_t first, int32_t last) {

@@ -70,7 +70,7 @@ bool isModel(int32_t model) {
 }
 
 const ModelRow& modelRow(int32_t model) {
-  return kModels[static_cast<std::size_t>(isModel(model) ? model : kVk480Q)];
+  return kModels[isModel(model) ? model : kVk480Q];
 }
 
 }  // namespace vk

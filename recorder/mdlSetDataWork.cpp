@@ -30,7 +30,7 @@ int16_t toIndex(int32_t value) {
 MeasureSetting& rowOf(int32_t serial) {
   const int32_t row = slotIndexOf(serial);
   if (row < 0) throw std::out_of_range("no box has this serial");
-  return gBoxTable[static_cast<std::size_t>(row)];
+  return gBoxTable[row];
 }
 
 void decodeLevel(SettingConditions& record, std::size_t channel, std::string_view field) {
@@ -119,7 +119,7 @@ float throughLevelFormat(double level) {
 
 int32_t wholePreArea(int32_t mode, int32_t dataSize) {
   static constexpr std::array<int32_t, kModes> kFirstSizeOfMax{10, 9, 8};
-  const bool max = dataSize >= kFirstSizeOfMax[static_cast<std::size_t>(mode)];
+  const bool max = dataSize >= kFirstSizeOfMax[mode];
   return max ? kPreAreaMax : kPreAreaFull;
 }
 

@@ -213,7 +213,7 @@ int32_t configKeyCount() {
 
 std::string_view configKeyName(int32_t number) {
   if (number < 0 || number >= configKeyCount()) return {};
-  return configKeys()[static_cast<std::size_t>(number)].name;
+  return configKeys()[number].name;
 }
 
 }  // namespace vk

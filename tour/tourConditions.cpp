@@ -75,7 +75,7 @@ bool csvHoldsTheSamples(const QString& folder, const QString& stem) {
   const QByteArray bytes = data.readAll();
   const auto lines = linesOf(folder + QLatin1Char('/') + stem + QStringLiteral(".csv"));
   constexpr qsizetype kHead = 17;
-  const qsizetype samples = bytes.size() / (2 * kChannels);
+  const qsizetype samples = bytes.size() / (qsizetype{2} * kChannels);
   if (samples == 0 || lines.size() != kHead + samples + 1) return false;
   const auto* words = reinterpret_cast<const uchar*>(bytes.constData());
   for (qsizetype i = 0; i < samples; ++i) {

@@ -245,7 +245,7 @@ Answer calibrate(const Call& call) {
   if (!hasAnalogOutput(call.box.model)) return refuse(kUnknownCommand);
   const auto output = digits(call.argument);
   if (call.argument.size() != 1 || !output || *output > 2) return refuse(kParameter);
-  for (Input& input : call.box.inputs) input.shift = kShift[static_cast<std::size_t>(*output)];
+  for (Input& input : call.box.inputs) input.shift = kShift[*output];
   return end();
 }
 

@@ -133,7 +133,7 @@ bool parseBoxSignal(std::string_view key, std::string_view value, BoxSetup& box)
   const auto channel = digits(key.substr(6));
   const auto signal = parseSignal(value);
   if (!channel || *channel < 1 || *channel > kChannels || !signal) return false;
-  box.signals[static_cast<std::size_t>(*channel - 1)] = *signal;
+  box.signals[*channel - 1] = *signal;
   return true;
 }
 
