@@ -141,20 +141,35 @@ int openNameless(const fs::path& folder, mode_t mode) {
   return openRetrying(folder.c_str(), O_WRONLY | O_TMPFILE, mode);
 }
 
+/// Locks a new file. False when a sweep from elsewhere, to which this process is unknown, has taken
+/// its name just before.
+bool lockedWhileNamed(int descriptor) {
+  std::ignore = ::flock(descriptor, LOCK_EX | LOCK_NB);
+  struct stat status {};
+  return ::fstat(descriptor, &status) != 0 || status.st_nlink > 0;
+}
+
 int openTemporary(const fs::path& target, mode_t mode, fs::path& name) {
   int descriptor = -1;
   for (int attempt = 0; descriptor < 0 && attempt < kTemporaryTries; ++attempt) {
     name = temporaryName(target);
     descriptor = openRetrying(name.c_str(), O_WRONLY | O_CREAT | O_EXCL, mode);
     if (descriptor < 0 && errno != EEXIST) return descriptor;
+    if (descriptor < 0 || lockedWhileNamed(descriptor)) continue;
+    ::close(descriptor);
+    descriptor = -1;
   }
-  if (descriptor >= 0) std::ignore = ::flock(descriptor, LOCK_EX | LOCK_NB);
   return descriptor;
 }
 
 bool linkTo(int descriptor, const fs::path& name) {
   const auto self = "/proc/self/fd/" + std::to_string(descriptor);
   return ::linkat(AT_FDCWD, self.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
+}
+
+bool isShortage(int error) {
+  return error == ENOSPC || error == EDQUOT || error == EMFILE || error == ENFILE ||
+         error == ENOMEM;
 }
 
 /// Can a file in `target`'s folder be written first and named then? Asked at this process's first
@@ -170,6 +185,8 @@ bool canNameLater(const fs::path& target) {
   const auto name = temporaryName(target);
   const bool linked = descriptor.get() >= 0 && linkTo(descriptor.get(), name);
   if (linked) ::unlink(name.c_str());
+  // What is short now says nothing about the file system.
+  if (!linked && isShortage(errno)) return false;
   return known[folder] = linked;
 }
 

@@ -102,7 +102,7 @@ FileDialogResult fileDialog(FileDialogKind kind, const std::string& title,
                             const std::string& filter) {
   FileDialogResult result;
   result.path = desktop().fileDialog(kind, title, filter, presentDefaultFolder());
-  const auto separator = result.path.find_last_of("/\\");
+  const auto separator = result.path.rfind('/');
   const auto first = separator == std::string::npos ? 0 : separator + 1;
   result.name = result.path.substr(first);
   if (result.name.empty()) return {};

@@ -255,9 +255,9 @@ void frmSetting::cmbDatasize_Change() {
 void frmSetting::cmbCarrSet_Change(std::size_t channel) {
   if (listsLocked_) return;
   QComboBox& ranges = *channels_[channel].cmbRangeSet;
-  rangePosition_ = ranges.currentIndex();
+  const int position = ranges.currentIndex();
   fillRange(channel, findIndex(carrierName, textOf(*channels_[channel].cmbCarrSet)));
-  selectPosition(ranges, rangePosition_);
+  selectPosition(ranges, position);
 }
 
 bool frmSetting::levelTaken(Channel& channel) {
@@ -309,9 +309,7 @@ bool frmSetting::applyConditions() {
   frmStatusBar status(tr("Set"), this);
   status.setLines(tr("Now Setting VK-480Q."));
   status.open();
-  JobView view;
-  view.progress = [&status](double fraction) { status.setProgress(fraction); };
-  if (!sendConditions(send, view)) return false;
+  if (!sendConditions(send, status.jobView())) return false;
   storeRecord(slotIndexOf(dialogRecord_.serial), dialogRecord_);
   return true;
 }

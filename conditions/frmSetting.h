@@ -110,7 +110,6 @@ class frmSetting : public QDialog {
   MeasureSetting dialogRecord_;
   bool listsLocked_ = false;  ///< lists are being filled: the change handlers are mute
   bool busy_ = false;         ///< a button is at work
-  int rangePosition_ = -1;    ///< of a range list whose excitation changes
   clsFieldGuard guard_;
 
   QLabel* lblMeter_;

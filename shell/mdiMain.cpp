@@ -257,6 +257,7 @@ void mdiMain::placeFrame() {
 
 void mdiMain::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) QTimer::singleShot(0, this, &mdiMain::makeRoom);
   if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
   QTimer::singleShot(0, this, &mdiMain::fitFrame);
 }

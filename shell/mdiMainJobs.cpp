@@ -47,7 +47,7 @@ void mdiMain::mnuFMeterRead_Click() {
   if (!selectBox(kSelectBox)) return;
   const int32_t serial = gSelSerial;
   {
-    frmStatusBar progress(QStringLiteral("Read USB"), this);
+    frmStatusBar progress(tr("Read USB"), this);
     progress.setLines(tr("Reading the directory of the CF card."));
     progress.open();
     if (usbRTD(serial, progress.jobView()) != kUsbOk) return;
@@ -92,7 +92,7 @@ void mdiMain::mnuCBalance_Click() {
   selectBox(kSelectBoxAndChannel);
   if (gSelSerial == kSelectCancelled || gSelSerial == kNoSerial) return;
   const auto steps = balanceSteps(gSelSerial, gSelChannel);
-  frmStatusBar window(QStringLiteral("Balance"), this);
+  frmStatusBar window(tr("Balance"), this);
   window.open();
   runBalance(steps, window.jobView());
 }
@@ -100,7 +100,7 @@ void mdiMain::mnuCBalance_Click() {
 void mdiMain::mnuCCFinit_Click() {
   const clsTimerPause pause(*tmrStatus_);
   if (!selectBox(kSelectConnected) || !askCardInit(gSelSerial)) return;
-  frmStatusBar window(QStringLiteral("Initializing CF card"), this);
+  frmStatusBar window(tr("Initializing CF card"), this);
   window.open();
   runCardInit(gSelSerial, window.jobView());
 }

@@ -109,12 +109,12 @@ bool autoReconnect(const LogBox& log) {
   const FlagGuard guard(gReconnecting);
   unloadMonitors();
   const std::string settings = configText();
-  const bool kept = writeConfig();
+  std::ignore = writeConfig();
   setDefaults();
   readConfig();
-  // A box that is refused reads the file once more; what the file could not take goes past it.
   std::ignore = connectBoxes(false, log);
-  if (!kept) std::ignore = readConfigText(settings);
+  // Past a file that could not be written or read back.
+  std::ignore = readConfigText(settings);
   openStoredMonitors();
   waitSeconds(kSettleSeconds);
   return !desktop().ending();

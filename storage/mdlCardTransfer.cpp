@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <memory>
 #include <tuple>
 
@@ -183,10 +184,9 @@ bool Transfer::writeHeader() {
     HeaderRecord header = fetched_.header;
     // The column is empty when the header could not be read at opening: nothing was edited then.
     if (!what_.file.seriesText.empty()) header[kSeries] = what_.file.seriesText;
-    // The file's own name stands in it, in the encoding of the rest where that has its letters.
-    const bool latin1 = !isUtf8(headerText_);
-    text =
-        headerToText(header, latin1 ? toLatin1(headerPath()).value_or(headerPath()) : headerPath());
+    // The file's own name stands in it, in the encoding of the rest.
+    const std::string name = std::filesystem::path(headerPath()).filename().string();
+    text = headerToText(header, isUtf8(headerText_) ? name : toLatin1(name).value_or(name));
   }
   view_.tellProgress(1);
   return yield() && fileDone(header_.open(headerPath()), headerPath()) &&

@@ -28,6 +28,11 @@ std::optional<std::string> inHeader(const NamingRow& row, std::string_view text)
   return row.latin1 ? toLatin1(text) : std::string(text);
 }
 
+bool fitsHeaders(const NamingList& list, std::string_view text) {
+  return std::all_of(list.rows.begin(), list.rows.end(),
+                     [&](const NamingRow& row) { return inHeader(row, text).has_value(); });
+}
+
 }  // namespace
 
 int32_t checkFileName(std::string_view text) {
@@ -75,6 +80,8 @@ NamingEdit selectNamingRow(NamingList& list, std::size_t row) {
 
 bool enterFileName(NamingList& list, std::string_view text) {
   if (list.selected >= list.rows.size() || checkFileName(text) != 0) return false;
+  // The name stands in the header as well.
+  if (!inHeader(list.rows[list.selected], text)) return false;
   list.rows[list.selected].fileName = std::string(text).append(kExtension);
   return true;
 }
@@ -89,7 +96,7 @@ bool enterSeriesText(NamingList& list, std::string_view text) {
 }
 
 bool setAllFileNames(NamingList& list, std::string_view prefix) {
-  if (checkFileName(prefix) != 0) return false;
+  if (checkFileName(prefix) != 0 || !fitsHeaders(list, prefix)) return false;
   for (std::size_t i = 0; i < list.oldFileName.size(); ++i) {
     list.rows[i].fileName = std::string(prefix).append(list.oldFileName[i]);
   }
@@ -100,10 +107,7 @@ bool setAllSeries(NamingList& list, std::string_view text) {
   if (list.seriesCommas.empty() || checkSeriesText(text, list.seriesCommas.front()) != 0) {
     return false;
   }
-  if (!std::all_of(list.rows.begin(), list.rows.end(),
-                   [&](const NamingRow& row) { return inHeader(row, text).has_value(); })) {
-    return refuseSeries(kInvalidValue) == 0;
-  }
+  if (!fitsHeaders(list, text)) return refuseSeries(kInvalidValue) == 0;
   for (NamingRow& row : list.rows) row.series = *inHeader(row, text);
   return true;
 }
