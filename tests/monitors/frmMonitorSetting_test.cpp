@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "monitors/frmMonitorSetting.h"
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
@@ -12,6 +13,7 @@
 
 #include "monitors/mdlMonitorCycle.h"
 #include "recorder/mdlBoxTable.h"
+#include "tests/support/fake_monitor.h"
 #include "tests/support/window_desktop.h"
 #include "tests/support/window_tools.h"
 
@@ -19,19 +21,6 @@ namespace vktest {
 namespace {
 
 using vk::MonitorKind;
-
-class CountingWindow : public vk::MonitorWindow {
- public:
-  int inits = 0;
-  void setInitMoniNum() override { ++inits; }
-  void Monitoring(std::span<const std::string_view>) override {}
-  void MoniDisConnect() override {}
-  void setUnitLabel() override {}
-  void showReadings() override {}
-  void showWindow() override {}
-  void hideWindow() override {}
-  void unload() override {}
-};
 
 class frmMonitorSettingTest : public ::testing::Test {
  protected:
@@ -42,26 +31,26 @@ class frmMonitorSettingTest : public ::testing::Test {
     main.show();
   }
   ~frmMonitorSettingTest() override {
-    for (const auto kind : vk::kMonitorKinds) vk::setMonitorWindow(kind, 1, nullptr);
     vk::resetMonitorRecords();
     vk::resetBoxTable();
   }
 
   QDialog& open(MonitorKind kind, std::size_t index = 1) {
+    desk.doEvents();  // until the one before is gone
     vk::openMonitorSetting(kind, index, &main);
     desk.doEvents();
     auto* form = main.findChild<QDialog*>();
     EXPECT_TRUE(form && form->isVisible() && !form->isModal());
     return *form;
   }
-  /// Texts into lists and fields; check boxes and buttons are clicked.
-  static void enter(QDialog& form, const std::vector<std::pair<const char*, const char*>>& texts) {
-    for (const auto& [name, text] : texts) {
-      auto* found = control<QWidget>(form, name);
+  /// "name=text|name=text" into lists and fields; check boxes and buttons are clicked.
+  static void enter(QDialog& form, const char* entries) {
+    for (const QString& entry : QString::fromUtf8(entries).split('|')) {
+      const QString text = entry.section('=', 1);
+      auto* found = control<QWidget>(form, entry.section('=', 0, 0).toLatin1());
       if (auto* list = qobject_cast<QComboBox*>(found)) list->setCurrentText(text);
       if (auto* edit = qobject_cast<QLineEdit*>(found)) edit->setText(text);
-      if (auto* check = qobject_cast<QCheckBox*>(found)) check->click();
-      if (auto* button = qobject_cast<QPushButton*>(found)) button->click();
+      if (auto* button = qobject_cast<QAbstractButton*>(found)) button->click();
     }
   }
   void set(QDialog& form) {
@@ -76,74 +65,47 @@ class frmMonitorSettingTest : public ::testing::Test {
 };
 
 TEST_F(frmMonitorSettingTest, EntriesGoIntoTheRecordAndTheMonitorTakesThem) {
-  CountingWindow window;
-  vk::setMonitorWindow(MonitorKind::kNumerical, 1, &window);
+  std::vector<std::string> calls;
+  FakeMonitor window(MonitorKind::kNumerical, 1, calls);
   auto& form = open(MonitorKind::kNumerical);
   EXPECT_EQ(control<QComboBox>(form, "cmbSerNum")->itemText(0), "4810021");
-  desk.colours = {0x010203, 0x040506, 0x070809, 0x0A0B0C};
-  enter(form, {{"cmbSerNum", "77"},
-               {"cmbChNum", "Ch 3"},
-               {"cmbMoniAve", "100"},
-               {"cmbPoint", "0.00"},
-               {"txtCaption", "Bridge left"},
-               {"chkCaution", ""},
-               {"txtUp", "1.5"},
-               {"txtDown", "-1e3"},
-               {"cmdColor(0)", ""},
-               {"cmdColor(1)", ""},
-               {"cmdColor(2)", ""},
-               {"cmdColor(3)", ""}});
-  auto expected = vk::gNumMoni[1];
+  desk.colours = {1, 2, 3, 4};
+  enter(form,
+        "cmbSerNum=77|cmbChNum=Ch 3|cmbMoniAve=100|cmbPoint=0.00|txtCaption=Bridge left|"
+        "chkCaution|txtUp=1.5|txtDown=-1e3|cmdColor(0)|cmdColor(1)|cmdColor(2)|cmdColor(3)");
   set(form);
-  expected.NUM_SER = 77;
-  expected.NUM_CH = 3;
-  expected.NUM_SPEED = 99;
-  expected.NUM_POINT = 2;
-  expected.NUM_CAPTION = "Bridge left";
-  expected.NUM_CVAL_ONOFF = true;
-  expected.NUM_CVAL_UP = 1.5F;
-  expected.NUM_CVAL_DOWN = -1000;
-  expected.NUM_BACK = 0x010203;
-  expected.NUM_FORE = 0x040506;
-  expected.NUM_C_BACK = 0x070809;
-  expected.NUM_C_FORE = 0x0A0B0C;
-  EXPECT_EQ(vk::gNumMoni[1], expected);
-  EXPECT_EQ(window.inits, 1);
+  const auto& record = vk::gNumMoni[1];
+  EXPECT_EQ(fmt::format("{} {} {} {} {}", record.NUM_CAPTION, record.NUM_SER, record.NUM_CH,
+                        record.NUM_SPEED, record.NUM_POINT),
+            "Bridge left 77 3 99 2");
+  EXPECT_EQ(fmt::format("{} {} {} {} {} {} {}", record.NUM_BACK, record.NUM_FORE, record.NUM_C_BACK,
+                        record.NUM_C_FORE, record.NUM_CVAL_ONOFF, record.NUM_CVAL_UP,
+                        record.NUM_CVAL_DOWN),
+            "1 2 3 4 true 1.5 -1000");
+  EXPECT_EQ(calls, std::vector<std::string>{"numerical 1 init"});
   EXPECT_EQ(desk.takeLog(),
             "colour[3092271]\ncolour[16777215]\ncolour[4210752]\ncolour[16777215]\n");
 }
 
 TEST_F(frmMonitorSettingTest, EveryKindWritesToItsOwnFields) {
-  enter(open(MonitorKind::kWave), {{"cmbYScale", "0.25"}, {"cmbXScale", "60sec"}, {"cmdSet", ""}});
+  enter(open(MonitorKind::kWave), "cmbYScale=0.25|cmbXScale=60sec|cmdSet");
   EXPECT_TRUE(vk::gWaveMoni[1].WAV_FULL == 0.25F && vk::gWaveMoni[1].WAV_SPEED == 11);
-  desk.doEvents();
-  desk.colours = {1, 2};
-  enter(open(MonitorKind::kXY), {{"cmbSerNum(0)", "4"},
-                                 {"cmbSerNum(1)", "5"},
-                                 {"cmbChNum(1)", "Ch 4"},
-                                 {"cmbScale(1)", "-2"},
-                                 {"cmdColor(5)", ""},
-                                 {"cmdColor(6)", ""},
-                                 {"cmdSet", ""}});
+  desk.colours = {1, 2, 3, 4};
+  enter(open(MonitorKind::kXY),
+        "cmbSerNum(0)=4|cmbSerNum(1)=5|cmbChNum(1)=Ch 4|cmbScale(1)=-2|cmdColor(5)|cmdColor(6)|"
+        "cmdSet");
   const auto& xy = vk::gXYMoni[1];
   EXPECT_TRUE(xy.XY_SER[0] == 4 && xy.XY_SER[1] == 5 && xy.XY_CH[1] == 4 && xy.XY_FULL[1] == -2 &&
               xy.XY_GRID == 1 && xy.XY_POINT == 2);
-  desk.doEvents();
-  desk.colours = {1, 2};
-  enter(open(MonitorKind::kBar), {{"cmbSerNum(3)", "9"},
-                                  {"cmbYScale(2)", "20"},
-                                  {"cmdColor(1)", ""},
-                                  {"cmdColor(6)", ""},
-                                  {"cmdSet", ""}});
+  enter(open(MonitorKind::kBar), "cmbSerNum(3)=9|cmbYScale(2)=20|cmdColor(1)|cmdColor(6)|cmdSet");
   const auto& bar = vk::gBarMoni[1];
-  EXPECT_TRUE(bar.BAR_SER[3] == 9 && bar.BAR_FULL[2] == 20 && bar.BAR_GND == 1 &&
-              bar.BAR_FORE[3] == 2);
-  desk.doEvents();
+  EXPECT_TRUE(bar.BAR_SER[3] == 9 && bar.BAR_FULL[2] == 20 && bar.BAR_GND == 3 &&
+              bar.BAR_FORE[3] == 4);
   desk.takeLog();
   auto& circle = open(MonitorKind::kCircle);
-  enter(circle, {{"cmbScale(0)", "-50"}, {"cmbScale(1)", "-50"}, {"cmdSet", ""}});
+  enter(circle, "cmbScale(0)=-50|cmbScale(1)=-50|cmdSet");
   EXPECT_TRUE(circle.isVisible() && desk.takeLog().starts_with("box[入力ｴﾗｰ][+ｽ"));
-  enter(circle, {{"cmbScale(1)", "20"}, {"cmdSet", ""}});
+  enter(circle, "cmbScale(1)=20|cmdSet");
   EXPECT_TRUE(vk::gCircleMoni[1].CRL_FULL == -50 && vk::gCircleMoni[1].CRL_OFFSET == 20);
 }
 
@@ -158,10 +120,8 @@ TEST_F(frmMonitorSettingTest, WhatNobodyTouchesStaysAsItIs) {
   vk::gBarMoni[1].BAR_CVAL_ONOFF = {true, false, true, false};
   vk::gCircleMoni[1].CRL_CVAL_DOWN = kLong;
   vk::gCircleMoni[1].CRL_C_FORE = 8;
-  const auto wave = vk::gWaveMoni[1];
-  const auto xy = vk::gXYMoni[1];
-  const auto bar = vk::gBarMoni[1];
-  const auto circle = vk::gCircleMoni[1];
+  const auto before =
+      std::tuple(vk::gNumMoni, vk::gWaveMoni, vk::gXYMoni, vk::gBarMoni, vk::gCircleMoni);
   for (const auto kind : vk::kMonitorKinds) {
     auto& form = open(kind);
     const bool numerical = kind == MonitorKind::kNumerical;
@@ -170,9 +130,8 @@ TEST_F(frmMonitorSettingTest, WhatNobodyTouchesStaysAsItIs) {
     EXPECT_EQ(control<QLineEdit>(form, one ? "txtUp" : "txtUp(1)")->isVisible(), numerical);
     set(form);
   }
-  EXPECT_EQ(vk::gNumMoni[1], vk::NumMonitorRec{});
-  EXPECT_TRUE(vk::gWaveMoni[1] == wave && vk::gXYMoni[1] == xy);
-  EXPECT_TRUE(vk::gBarMoni[1] == bar && vk::gCircleMoni[1] == circle);
+  EXPECT_TRUE(before ==
+              std::tie(vk::gNumMoni, vk::gWaveMoni, vk::gXYMoni, vk::gBarMoni, vk::gCircleMoni));
 }
 
 TEST_F(frmMonitorSettingTest, AnEntryIsCheckedWhenItsFieldIsLeft) {
@@ -225,7 +184,7 @@ TEST_F(frmMonitorSettingTest, CancelWritesAndComplainsNothing) {
   auto* caption = control<QLineEdit>(again, "txtCaption");
   caption->setFocus();
   QTest::keyClick(caption, Qt::Key_Return);
-  enter(again, {{"txtCaption", "a,b"}, {"cmdSet", ""}});
+  enter(again, "txtCaption=a,b|cmdSet");
   EXPECT_EQ(desk.takeLog(), kInvalid);
   EXPECT_TRUE(again.isVisible() && caption->hasFocus());
   QTest::keyClick(caption, Qt::Key_Escape);
@@ -235,19 +194,19 @@ TEST_F(frmMonitorSettingTest, CancelWritesAndComplainsNothing) {
 TEST_F(frmMonitorSettingTest, AnInvalidLimitStandsInTheWayOnlyWhereItCanBeReached) {
   auto& form = open(MonitorKind::kNumerical);
   desk.colours = {0x010203, 0x040506};
-  enter(form, {{"chkCaution", ""}, {"cmdColor(2)", ""}});
+  enter(form, "chkCaution|cmdColor(2)");
   desk.takeLog();
   auto* limit = control<QLineEdit>(form, "txtUp");
   limit->setFocus();
   limit->setText("abc");
   control<QPushButton>(form, "cmdColor(2)")->setFocus();
-  enter(form, {{"cmdColor(2)", ""}});
+  enter(form, "cmdColor(2)");
   EXPECT_EQ(desk.takeLog(), kInvalid) << "and no colour dialog";
-  enter(form, {{"chkCaution", ""}});
+  enter(form, "chkCaution");
   EXPECT_EQ(limit->text().toStdString(), vk::numberText(vk::gNumMoni[1].NUM_CVAL_UP, 0));
-  enter(form, {{"chkCaution", ""}});
+  enter(form, "chkCaution");
   EXPECT_EQ(control<vk::ColourArea>(form, "picAbnBack")->backColor(), vk::gNumMoni[1].NUM_C_BACK);
-  enter(form, {{"chkCaution", ""}});
+  enter(form, "chkCaution");
   set(form);
   EXPECT_TRUE(desk.takeLog().empty() && vk::gNumMoni[1].NUM_C_BACK == 0x010203);
 }
@@ -271,7 +230,7 @@ TEST_F(frmMonitorSettingTest, TheSamplesFollow) {
   EXPECT_EQ(fore->palette().color(QPalette::WindowText), QColor(Qt::white));
   control<QComboBox>(form, "cmbPoint")->setCurrentIndex(4);
   EXPECT_EQ(fore->text(), "0.0000");
-  enter(form, {{"txtUp", "5"}, {"txtDown", "5"}, {"cmdSet", ""}});
+  enter(form, "txtUp=5|txtDown=5|cmdSet");
   EXPECT_TRUE(
       desk.takeLog().ends_with("box[入力ｴﾗｰ][上限値より下限値を小さい値にしてください。]\n"));
   EXPECT_EQ(control<QLineEdit>(form, "txtDown")->selectedText(), "5");
@@ -281,18 +240,18 @@ TEST_F(frmMonitorSettingTest, TheSamplesFollow) {
 TEST_F(frmMonitorSettingTest, OneDialogServesAllMonitorsOfItsKind) {
   vk::gBarMoni[2].BAR_CAPTION = "second";
   vk::gBarMoni[2].BAR_CH = {9, -4, 2, 3};
-  CountingWindow first, second;
-  vk::setMonitorWindow(MonitorKind::kBar, 1, &first);
+  std::vector<std::string> calls;
   auto& form = open(MonitorKind::kBar, 1);
-  enter(form, {{"txtCaption", "lost"}, {"cmbYScale(0)", "x"}});
+  enter(form, "txtCaption=lost|cmbYScale(0)=x");
   EXPECT_EQ(&open(MonitorKind::kBar, 2), &form);
   EXPECT_EQ(control<QLineEdit>(form, "txtCaption")->text(), "second");
   EXPECT_EQ(control<QComboBox>(form, "cmbChNum(0)")->currentText(), "Ch 4");
-  // A reconnect loads another window behind the dialog, or none.
-  vk::setMonitorWindow(MonitorKind::kBar, 1, &second);
+  // A reconnect may leave no window behind the dialog.
   set(form);
+  FakeMonitor window(MonitorKind::kBar, 1, calls);
   set(open(MonitorKind::kBar, 1));
-  EXPECT_TRUE(first.inits == 0 && second.inits == 1 && vk::gBarMoni[1].BAR_CAPTION.empty());
+  EXPECT_EQ(calls, std::vector<std::string>{"bar 1 init"});
+  EXPECT_EQ(vk::gBarMoni[1].BAR_CAPTION, "");
   EXPECT_EQ(vk::gBarMoni[2].BAR_CH[1], 1);
 }
 

@@ -9,86 +9,53 @@
 #include "monitors/mdlNumMonitor.h"
 #include "monitors/mdlWaveMonitor.h"
 #include "monitors/mdlXYMonitor.h"
-#include "recorder/mdlBoxTable.h"
-#include "tests/support/fake_desktop.h"
-#include "tests/support/recording_picture.h"
+#include "tests/monitors/logic_test.h"
 
-namespace vk {
+namespace vktest {
 namespace {
 
-class MonitorContract : public ::testing::Test {
- protected:
-  ~MonitorContract() override { resetBoxTable(); }
-
-  static void take(MonitorLogic& logic, std::string_view reading) {
-    const auto all = filled<std::string_view, kMostChannels>(reading);
-    logic.take(all);
+template <typename Monitor, typename Record>
+class Kind : public MonitorLogicTest<Monitor, Record> {
+ public:
+  void TestBody() override {}
+  /// Takes the reading on all channels, shows it, and returns what the first one says.
+  std::string all(std::string_view reading) {
+    this->take(reading, reading, reading, reading);
+    EXPECT_EQ(this->log, "") << "taking in draws nothing";
+    this->frame();
+    return this->said();
   }
-  /// The new texts of all labels of the first channel.
-  static std::string said(MonitorLogic& logic) {
-    const auto labels = logic.labels(0);
-    std::string all;
-    for (const auto& text : {labels.value, labels.unit, labels.max, labels.min})
-      all += text.value_or("=") + "|";
-    return all;
+  void holds(const char* value, const char* lost, const char* lines) {
+    SCOPED_TRACE(lost);
+    this->init(100, 100);
+    const std::string first = this->frame();
+    const auto count = [&](const std::string& colour) {
+      std::size_t found = 0;
+      for (auto at = first.find(colour); at != first.npos; at = first.find(colour, at + 1)) ++found;
+      return std::to_string(found);
+    };
+    EXPECT_EQ(count("4F4F4F") + " " + count("8F8F8F"), lines) << "of the grid and the ground";
+    EXPECT_EQ(this->said(), "[ue]") << "init says the unit";
+    EXPECT_EQ(all("+00012"), value);
+    EXPECT_EQ(this->frame() + this->said(), "") << "nothing new";
+    this->monitor.lose();
+    EXPECT_EQ(this->said(), lost);
+    EXPECT_EQ(all(vk::kLostReading), "") << "a loss is told once";
+    this->monitor.reloadUnit(0);
+    EXPECT_EQ(this->said(), "[ue]");
+    this->monitor.clear();
+    this->monitor.resize(50, 50);
+    EXPECT_TRUE(this->monitor.show({this->shown, this->twin, &this->extra})) << "another size";
   }
-
-  vktest::FakeDesktop desk;
-  NumMonitorRec num;
-  WaveMonitorRec wave;
-  XYMonitorRec xy;
-  BarMonitorRec bar;
-  CircleMonitorRec circle;
-  NumMonitor numbers{num};
-  WaveMonitor waves{wave};
-  XYMonitor plots{xy};
-  BarMonitor bars{bar};
-  CircleMonitor dials{circle};
-  std::string log;
-  vktest::RecordingPicture shown{"shown", 100, 100, log};
-  vktest::RecordingPicture twin{"twin", 100, 100, log};
-  vktest::RecordingPicture extra{"extra", 100, 100, log};
 };
 
-TEST_F(MonitorContract, HoldsForEveryKind) {
-  resetBoxTable();
-  const struct {
-    MonitorLogic& logic;
-    const char* value;
-    const char* lost;
-  } rows[] = {{numbers, "=|=|+12|=|", "=|--- |--- |--- |"},
-              {waves, "12|=|=|=|", "---||=|=|"},
-              {plots, "12|=|=|=|", "---||=|=|"},
-              {bars, "12|=|=|=|", "---||=|=|"},
-              {dials, "12|=|=|=|", "---||=|=|"}};
-  const MonitorSurfaces surfaces{shown, twin, &extra};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.lost);
-    row.logic.init(filled<int32_t, kMostChannels>(1));
-    row.logic.resize(100, 100);
-    row.logic.show(surfaces);
-    EXPECT_NE(said(row.logic).find("|ue|"), std::string::npos) << "init says the unit";
-    log.clear();
-    take(row.logic, "+00012");
-    EXPECT_EQ(log, "") << "taking in draws nothing";
-    row.logic.show(surfaces);
-    EXPECT_EQ(said(row.logic), row.value);
-    log.clear();
-    EXPECT_FALSE(row.logic.show(surfaces));
-    EXPECT_EQ(log + said(row.logic), "=|=|=|=|") << "nothing new";
-    row.logic.lose();
-    EXPECT_EQ(said(row.logic), row.lost);
-    take(row.logic, kLostReading);
-    row.logic.show(surfaces);
-    EXPECT_EQ(said(row.logic), "=|=|=|=|") << "a loss is told once";
-    row.logic.reloadUnit(0);
-    EXPECT_EQ(said(row.logic), "=|ue|=|=|");
-    row.logic.clear();
-    row.logic.resize(50, 50);
-    EXPECT_TRUE(row.logic.show(surfaces)) << "another size is drawn";
-    log.clear();
-  }
+TEST(MonitorContract, HoldsForEveryKind) {
+  Kind<vk::NumMonitor, vk::NumMonitorRec>().holds("^+12", "[--- ]^--- _--- ", "0 0");
+  Kind<vk::WaveMonitor, vk::WaveMonitorRec>().holds("12", "---[]", "16 2");
+  Kind<vk::XYMonitor, vk::XYMonitorRec>().holds("12", "---[]", "16 2");
+  Kind<vk::BarMonitor, vk::BarMonitorRec>().holds("12", "---[]", "9 1");
+  Kind<vk::CircleMonitor, vk::CircleMonitorRec>().holds("12", "---[]", "31 7");
 }
 
 }  // namespace
-}  // namespace vk
+}  // namespace vktest

@@ -8,37 +8,21 @@
 namespace vk {
 namespace {
 
-template <typename Records>
-bool allDefault(const Records& records) {
-  for (const auto& record : records) {
-    if (!(record == typename Records::value_type{})) return false;
-  }
-  return true;
-}
-
-TEST(MonitorRecords, ResetReachesTheFirstAndTheLastOfEachKind) {
-  for (const std::size_t last : {std::size_t{0}, std::size_t{1}}) {
-    gNumMoni[last * (kNumMonitors - 1)].NUM_POINT = 3;
-    gWaveMoni[last * (kWaveMonitors - 1)].WAV_CAPTION = "bridge";
-    gXYMoni[last * (kXYMonitors - 1)].XY_CVALDOWN[1] = 1;
-    gBarMoni[last * (kBarMonitors - 1)].BAR_CVAL_ONOFF[3] = true;
-    gCircleMoni[last * (kCircleMonitors - 1)].CRL_ONOFF = true;
-  }
-  resetMonitorRecords();
-  EXPECT_TRUE(allDefault(gNumMoni));
-  EXPECT_TRUE(allDefault(gWaveMoni));
-  EXPECT_TRUE(allDefault(gXYMoni));
-  EXPECT_TRUE(allDefault(gBarMoni));
-  EXPECT_TRUE(allDefault(gCircleMoni));
-}
-
 TEST(MonitorRecords, EveryKindHasItsRoomInWhatGoesOverAllKinds) {
   for (const auto kind : kMonitorKinds) {
-    EXPECT_LE(monitorCount(kind), kMostMonitors);
-    const auto fields = monitorFields(kind, monitorCount(kind) - 1);
-    EXPECT_LE(fields.serial.size(), kMostChannels);
-    EXPECT_EQ(fields.serial.size(), fields.channel.size());
-    EXPECT_THROW(monitorFields(kind, monitorCount(kind)), std::out_of_range);
+    SCOPED_TRACE(static_cast<int>(kind));
+    const std::size_t last = monitorCount(kind) - 1;
+    EXPECT_LT(last, kMostMonitors);
+    EXPECT_THROW(monitorFields(kind, last + 1), std::out_of_range);
+    for (const std::size_t index : {std::size_t{0}, last}) {
+      const auto fields = monitorFields(kind, index);
+      EXPECT_TRUE(fields.serial.size() <= kMostChannels &&
+                  fields.serial.size() == fields.channel.size());
+      fields.on = true;
+      fields.channel.back() = 4;
+      resetMonitorRecords();
+      EXPECT_TRUE(!fields.on && fields.channel.back() == 1);
+    }
   }
 }
 

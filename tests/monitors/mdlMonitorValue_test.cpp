@@ -3,11 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
+#include <sstream>
 
 #include "base/mdlText.h"
 #include "recorder/mdlBoxTable.h"
+#include "tests/support/text_table.h"
 
 namespace vk {
 namespace {
@@ -19,26 +19,19 @@ class MonitorValue : public testing::Test {
 };
 
 TEST_F(MonitorValue, Display) {
-  struct Row {
-    const char* text;
-    int16_t range;
-    float coeff;
-    int16_t carrier;
-    const char* shown;
-  };
-  const Row rows[] = {
-      {"+01000", 10, 1, 1, "400"},    {"+01000", 4, 1, 2, "1000"}, {"-00007", 7, 2.5F, 0, "-17.5"},
-      {"+00001", 8, 0.3F, 2, "0.03"}, {"+00001", 11, 1, 2, "0.1"}, {"+00001", 12, 1, 2, "1"},
-      {"+00001", 19, 1, 2, "1"},      {"+00001", 20, 1, 2, "0.1"}, {"+00001", 23, 1, 1, "0.4"},
-      {"+00001", 24, 1, 1, "4"},      {"------", 4, 1, 2, "none"}, {"*", 4, 1, 2, "none"},
-      {"      ", 4, 1, 2, "none"},    {"+01x00", 4, 1, 2, "none"}};
-  for (const auto& row : rows) {
-    gBoxTable[8].range[4] = row.range;
-    gBoxTable[8].coeff[4] = row.coeff;
-    gBoxTable[8].carrier[4] = row.carrier;
-    const auto value = toDisplayValue(row.text, 8, 4);
-    EXPECT_EQ(value ? textOf(*value) : "none", row.shown) << row.text << " " << row.range;
-  }
+  // Reading, range, coefficient, excitation.
+  const char* const table =
+      R"(+01000 10 1 1=400|+01000 4 1 2=1000|-00007 7 2.5 0=-17.5|+00001 8 0.3 2=0.03
+|+00001 11 1 2=0.1|+00001 12 1 2=1|+00001 19 1 2=1|+00001 20 1 2=0.1|+00001 23 1 1=0.4
+|+00001 24 1 1=4|------ 4 1 2=none|* 4 1 2=none|+01x00 4 1 2=none)";
+  vktest::expectAnswers(table, [](const std::string& question) {
+    std::string reading;
+    std::istringstream(question) >> reading >> gBoxTable[8].range[4] >> gBoxTable[8].coeff[4] >>
+        gBoxTable[8].carrier[4];
+    const auto value = toDisplayValue(reading, 8, 4);
+    return value ? textOf(*value) : "none";
+  });
+  EXPECT_FALSE(toDisplayValue("      ", 8, 4));
   // Nonsense from a file reaches no row and no channel.
   for (const auto& [slot, channel] : {std::pair{0, 1}, {9, 1}, {-1, 1}, {1, 0}, {1, 5}}) {
     EXPECT_FALSE(toDisplayValue("+00001", slot, channel)) << slot << channel;
@@ -47,22 +40,10 @@ TEST_F(MonitorValue, Display) {
 }
 
 TEST_F(MonitorValue, ReadingsAreSixCharactersEach) {
-  const std::string reply = "+00001-00002------+0";
-  const char* const kReadings[] = {"", "+00001", "-00002", "------", "+0", ""};
-  for (int channel = 0; channel <= 5; ++channel) {
-    EXPECT_EQ(readingOf(reply, channel), kReadings[channel]) << channel;
-  }
+  vktest::expectAnswers("0=|1=+00001|2=-00002|3=------|4=+0|5=", [](const std::string& channel) {
+    return std::string(readingOf("+00001-00002------+0", vktest::numbersOf(channel)[0]));
+  });
   EXPECT_EQ(readingOf(kLostReading, 2), "");
-}
-
-TEST_F(MonitorValue, TheFirstSampleSetsOnlyTheMaximum) {
-  Extremes held;
-  std::string steps;
-  for (const float value : {5.0F, 7.0F, 7.0F, 6.0F, -2.0F, 9.0F}) {
-    held.hold(value);
-    steps += textOf(held.max) + "/" + textOf(held.min) + " ";
-  }
-  EXPECT_EQ(steps, "5/1E+10 7/1E+10 7/7 7/6 7/-2 9/-2 ");
 }
 
 TEST_F(MonitorValue, CaptionsComeBackAsTheyWere) {
