@@ -15,19 +15,6 @@
 
 namespace vktest {
 
-/// The new texts of the labels, "value[unit]^max_min" for each channel.
-inline std::string newTexts(vk::MonitorLogic& logic, std::size_t channels = 1) {
-  std::string all;
-  for (std::size_t i = 0; i < channels; ++i) {
-    const auto labels = logic.labels(i);
-    all += (i == 0 ? "" : "|") + labels.value.value_or("");
-    if (labels.unit) all += "[" + *labels.unit + "]";
-    if (labels.max) all += "^" + *labels.max;
-    if (labels.min) all += "_" + *labels.min;
-  }
-  return all;
-}
-
 template <typename Monitor, typename Record, std::size_t channels = 1>
 class MonitorLogicTest : public ::testing::Test {
  protected:
@@ -60,7 +47,18 @@ class MonitorLogicTest : public ::testing::Test {
     }
     return kept;
   }
-  std::string said() { return newTexts(monitor, channels); }
+  /// The new texts of the labels, "value[unit]^max_min" for each channel.
+  std::string said() {
+    std::string all;
+    for (std::size_t i = 0; i < channels; ++i) {
+      const auto labels = monitor.labels(i);
+      all += (i == 0 ? "" : "|") + labels.value.value_or("");
+      if (labels.unit) all += "[" + *labels.unit + "]";
+      if (labels.max) all += "^" + *labels.max;
+      if (labels.min) all += "_" + *labels.min;
+    }
+    return all;
+  }
 
   FakeDesktop desk;
   std::string log;

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <tuple>
 
 #include "tests/monitors/logic_test.h"
 
@@ -79,12 +80,7 @@ TEST_F(CircleMonitorTest, ValuesBeyondTheScaleArePegged) {
   const std::string high = "96,50 00FFFF|";
   const std::string right = "82,50 0000FF|96,50 0000FF|";
   const std::string down = "50,82 0000FF|50,96 0000FF|";
-  const struct {
-    int32_t offset;
-    float full;
-    std::string_view reading;
-    std::string strokes;
-  } rows[] = {
+  const std::tuple<int32_t, float, const char*, std::string> rows[] = {
       {0, 1000, "+01000", "96,50 8000FF|" + high + right + "72,69 82,74 2F2F2F|"},
       {0, 1000, "+01001", "96,50 00FFFF|" + high + right + "71,68 82,74 8000FF|"},
       {0, 1000, "+00000", "50,96 8000FF|" + high + down + "72,69 82,74 2F2F2F|"},
@@ -92,16 +88,16 @@ TEST_F(CircleMonitorTest, ValuesBeyondTheScaleArePegged) {
       {1000, -1000, "+00000", "50,96 00FFFF|" + high + right + "71,68 82,74 8000FF|"},  // backward
       {500, 500, "+00500", "50,96 8000FF|" + high + down + "72,69 82,74 2F2F2F|"},
   };
-  for (const auto& row : rows) {
+  for (const auto& [offset, full, reading, expected] : rows) {
     monitor.clear();
-    start(100, row.offset, row.full);
+    start(100, offset, full);
     std::string strokes;
-    std::istringstream lines(show(row.reading));
+    std::istringstream lines(show(reading));
     for (std::string line; std::getline(lines, line);) {
       if (line.starts_with("twin: line")) strokes += line.substr(line.rfind(',') - 2) + "|";
       if (line.starts_with("twin: filled")) strokes += line.substr(13) + "|";
     }
-    EXPECT_EQ(strokes, row.strokes) << row.reading;
+    EXPECT_EQ(strokes, expected) << reading;
   }
 }
 

@@ -147,9 +147,8 @@ TEST_F(MonitorCycle, AReconnectWithinARetryEndsThePassWithoutAReading) {
       vk::resetMonitorCycle();
     });
     EXPECT_TRUE(vk::monitorCycle());
-    EXPECT_EQ(desk.clock, 200);
     EXPECT_EQ(desk.takeLog(), "") << answers;
-    EXPECT_EQ(notices, 0);
+    EXPECT_TRUE(desk.clock == 200 && notices == 0);
     EXPECT_TRUE(vk::gBoxTable[1].handle == 1 && vk::gBoxTable[2].handle == 2);
     TearDown();
   }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 
 #include "tests/monitors/logic_test.h"
 
@@ -124,22 +125,18 @@ TEST_F(WaveMonitorTest, GroundLevelMovesNewSamplesOnly) {
 }
 
 TEST_F(WaveMonitorTest, OffsetCancelTakesTheMeanOfTwentyReadings) {
-  const struct {
-    int16_t range;
-    int16_t carrier;
-    float coeff;
-    int32_t shift;
-  } rows[] = {{4, 2, 1, 40}, {8, 2, 1, 4}, {4, 1, 0.5F, 80}, {23, 1, 2, 32}, {12, 2, -1, -40}};
-  for (const auto& row : rows) {
-    gBoxTable[1].range[1] = row.range;
-    gBoxTable[1].carrier[1] = row.carrier;
-    gBoxTable[1].coeff[1] = row.coeff;
+  const std::tuple<int16_t, int16_t, float, int32_t> rows[] = {
+      {4, 2, 1, 40}, {8, 2, 1, 4}, {4, 1, 0.5F, 80}, {23, 1, 2, 32}, {12, 2, -1, -40}};
+  for (const auto& [range, carrier, coeff, shift] : rows) {
+    gBoxTable[1].range[1] = range;
+    gBoxTable[1].carrier[1] = carrier;
+    gBoxTable[1].coeff[1] = coeff;
     monitor.setOffsetCancel(true);
     take(10, "000500");
     take(9, "001500");
     EXPECT_EQ(monitor.cancelOffsetPx(), 0);
     take(1, "001500");
-    EXPECT_EQ(monitor.cancelOffsetPx(), row.shift) << row.range;
+    EXPECT_EQ(monitor.cancelOffsetPx(), shift) << range;
   }
   EXPECT_TRUE(record.WAV_CUP_ON && record.WAV_CUP_VALUE == 0);
   monitor.setOffsetCancel(false);

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <tuple>
 
 #include "tests/monitors/logic_test.h"
 
@@ -56,13 +57,8 @@ TEST_F(XYMonitorTest, AShiftedAxisJumpsWithTheNextSample) {
 }
 
 TEST_F(XYMonitorTest, WhatOneReadingShows) {
-  const struct {
-    const char* y;
-    const char* x;
-    const char* labels;
-    const char* line;  ///< into the twin, from the centre
-    bool pointer;
-  } states[] = {
+  // The line leads from the centre; without one the pointer is seen only where it stays.
+  const std::tuple<std::string, const char*, const char*, std::string, bool> states[] = {
       {"+01000", "------", "1000|unused", "202,162", true},
       {"------", "+01000", "unused|1000", "242,202", true},
       {"OVER  ", "+01000", "error|1000", "242,202", true},
@@ -72,16 +68,16 @@ TEST_F(XYMonitorTest, WhatOneReadingShows) {
       {"*", "*", "---[]|---[]", "", true},  // it stays where it was
       {"+01000", "", "1000|error", "202,162", true},
   };
-  for (const auto& state : states) {
-    SCOPED_TRACE(std::string(state.y) + " against " + state.x);
+  for (const auto& [y, x, labels, line, pointer] : states) {
+    SCOPED_TRACE(y + " against " + x);
     start();
-    take(state.y, state.x);
-    const std::string end = std::string(state.line) + " 0000FF\n";
-    EXPECT_EQ(drawn(), *state.line ? "twin: line 202,202 " + end + "twin: point " + end +
-                                         "shown: copy twin 0,0 404x404 to 0,0\n" + kOverlays
-                                   : kOverlays);
-    EXPECT_EQ(said(), state.labels);
-    EXPECT_EQ(monitor.pointerVisible(), state.pointer);
+    take(y, x);
+    const std::string end = line + " 0000FF\n";
+    EXPECT_EQ(drawn(), !line.empty() ? "twin: line 202,202 " + end + "twin: point " + end +
+                                           "shown: copy twin 0,0 404x404 to 0,0\n" + kOverlays
+                                     : kOverlays);
+    EXPECT_EQ(said(), labels);
+    EXPECT_EQ(monitor.pointerVisible(), pointer);
   }
 }
 
