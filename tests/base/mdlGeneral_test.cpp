@@ -20,13 +20,9 @@ TEST(Lists, Fields) {
   EXPECT_EQ(vk::fieldCount("", ',') + vk::fieldCount("a", ','), 0);
   EXPECT_EQ(vk::fieldCount("a,b,,", ','), 3);
   EXPECT_EQ(vk::fieldCount("a b,c", ' '), 1);
-  const auto fields = [](std::string_view text, std::initializer_list<int32_t> numbers) {
-    std::string all;
-    for (const auto n : numbers) all += vk::listField(text, n) + "|";
-    return all;
-  };
-  EXPECT_EQ(fields(" a ,,c", {1, 2, 3, 4, 0, -1, 2000000000}), " a ||c|||||");
-  EXPECT_EQ(fields("abc", {1, 2}) + fields("", {1, 2}), "abc||||");
+  std::string fields;
+  for (const auto n : {1, 2, 3, 4, 0, -1, 2000000000}) fields += vk::listField(" a ,,c", n) + "|";
+  EXPECT_EQ(fields + vk::listField("abc", 1) + vk::listField("abc", 2), " a ||c|||||abc");
   EXPECT_EQ(vk::dropLastComma("1,2") + "|" + vk::dropLastComma("1,,") + "|" +
                 vk::dropLastComma(",") + vk::dropLastComma(""),
             "1,2|1,|");
@@ -73,16 +69,6 @@ class General : public ::testing::Test {
   vktest::FakeDesktop desktop_;
 };
 
-TEST_F(General, AskOverwriteIsYesButForNo) {
-  desktop_.answers = {vk::BoxAnswer::kYes, vk::BoxAnswer::kNo, vk::BoxAnswer::kClosed};
-  for (const int32_t result : {1, 0, 1}) {
-    EXPECT_EQ(vk::askOverwrite("/data/A.dat"), result);
-    EXPECT_EQ(desktop_.takeLog(),
-              "box[File Process][/data/A.dat\r\nThis file name is already in use.Overwrite?]"
-              "[yes-no][exclamation]\n");
-  }
-}
-
 TEST_F(General, FileDialogKeepsTheFolder) {
   vk::gDefaultFolder = "d:\\";  // not there: the dialog begins in the program's own folder
   desktop_.files = {"/usr/lib/A.set", "", "/gone/A.set", "A.set", "/only/folder/"};
@@ -101,17 +87,6 @@ TEST_F(General, FileDialogKeepsTheFolder) {
             "open[Title][Text|*.set|][/nonexistent]\n  /gone/\n");
 }
 
-TEST_F(General, WaitSecondsYieldsUntilTheTimeHasPassed) {
-  std::string moved;
-  for (const double seconds : {0.2, 0.0004, 0.0, -5.0, std::nan("")}) {
-    desktop_.clock = 0;
-    vk::waitSeconds(seconds);
-    moved += fmt::format("{} ", desktop_.clock);
-  }
-  EXPECT_EQ(moved, "200 1 0 0 0 ");
-  EXPECT_EQ(desktop_.yieldCount, 2);
-}
-
 /// A clock whose yields come back early, as a queue full of events does.
 class BusyDesktop : public vktest::FakeDesktop {
  public:
@@ -127,38 +102,39 @@ TEST(Wait, GoesOnAcrossTheWrapOfTheCounterAndLeavesWhenTheProgramEnds) {
   vk::waitSeconds(0.1);
   EXPECT_EQ(desktop.yieldCount, 10);
   EXPECT_EQ(desktop.clock, 44);
+  std::string moved;
+  for (const double seconds : {0.0004, 0.0, -5.0, std::nan("")}) {
+    desktop.clock = 0;
+    vk::waitSeconds(seconds);
+    moved += fmt::format("{} ", desktop.clock);
+  }
+  EXPECT_EQ(moved, "10 0 0 0 ");
   desktop.yields = {[] {}, [&] { desktop.endProgram(); }};
-  vk::waitSeconds(3600);
-  EXPECT_EQ(desktop.clock, 64);
-  vk::waitSeconds(3600);
-  EXPECT_EQ(desktop.clock, 64);
+  for (int i = 0; i < 2; ++i) vk::waitSeconds(3600);
+  EXPECT_EQ(desktop.clock, 20);
 }
 
 TEST(Progress, Percent) {
-  std::string full, working;
+  std::string percents;
   for (const double fraction : {0.0, 0.004999, 0.005, 0.015, 0.494, 0.495, 0.994999, 0.995, 1.0,
                                 -1.0, 1e300, std::nan("")}) {
-    full += fmt::format("{} ", vk::progressPercent(fraction, true));
-    working += fmt::format("{} ", vk::progressPercent(fraction, false));
+    percents += fmt::format("{},{} ", vk::progressPercent(fraction, true),
+                            vk::progressPercent(fraction, false));
   }
-  EXPECT_EQ(full, "0 0 1 2 49 50 99 100 100 0 100 0 ");
-  EXPECT_EQ(working, "1 1 1 2 49 50 99 99 99 1 99 1 ");
+  EXPECT_EQ(percents, "0,1 0,1 1,1 2,2 49,49 50,50 99,99 100,99 100,99 0,1 100,99 0,1 ");
 }
 
 TEST(Progress, Bar) {
   vktest::RecordingPicture picture("bar", 200, 20);
-  for (const double fraction : {0.0, 0.5, 1.0}) vk::progressBar(picture, fraction, true);
+  vk::progressBar(picture, 0.5, true);
+  vk::progressBar(picture, 0, true);
   vk::progressBar(picture, 0, false);
   EXPECT_EQ(picture.take(), R"(clear FFFFFF
-text 92,2 800000 [0%]
-refresh
-clear FFFFFF
 text 88,2 800000 [50%]
 inverted 0,0 99,19 800000
 refresh
 clear FFFFFF
-text 84,2 800000 [100%]
-inverted 0,0 199,19 800000
+text 92,2 800000 [0%]
 refresh
 clear FFFFFF
 text 92,2 800000 [1%]

@@ -84,10 +84,9 @@ class frmBin_CSVTest : public ::testing::Test {
   std::unique_ptr<vk::frmBin_CSV> form;
 };
 
-TEST_F(frmBin_CSVTest, OpensOnTheDefaultFolder) {
+TEST_F(frmBin_CSVTest, FoldersArePickedOrTyped) {
   EXPECT_EQ(top + "|" + top, folders());
-  const std::string rows = listText(list(), 2);
-  EXPECT_EQ("[ ]A.DAT|12000\n[ ]B.DAT|12000\n", rows);
+  EXPECT_EQ("[ ]A.DAT|12000\n[ ]B.DAT|12000\n", listText(list(), 2));
   EXPECT_EQ(13, control<QComboBox>(*form, "cmbDivision")->count());
   control<QAction>(*form, "mnuASelect")->trigger();
   EXPECT_EQ("[x]A.DAT\n[x]B.DAT\n", listText(list(), 1));
@@ -98,9 +97,6 @@ TEST_F(frmBin_CSVTest, OpensOnTheDefaultFolder) {
   type(*form, "txtFolder(1)", "/nonexistent");
   press(*form, "cmdCSVSave");
   EXPECT_EQ("box[File Error][Folder does not exist.]\n", desk.takeLog());
-}
-
-TEST_F(frmBin_CSVTest, FoldersArePickedOrTyped) {
   const std::string more = top + "/more";
   choose(1, more.c_str());
   EXPECT_EQ(top + "|" + more, folders());
@@ -108,7 +104,6 @@ TEST_F(frmBin_CSVTest, FoldersArePickedOrTyped) {
   choose(0, nullptr);
   EXPECT_EQ(more + "|" + more, folders());
   EXPECT_EQ("[ ]C.DAT\n", listText(list(), 1));
-  check(0);
   enter(*form, "txtFolder(0)", top.c_str());
   EXPECT_EQ("[ ]A.DAT\n[ ]B.DAT\n", listText(list(), 1));
 }
@@ -123,6 +118,7 @@ TEST_F(frmBin_CSVTest, ATypedFolderAndSaveConvertOrSayWhyNot) {
       // The folder that is listed already, spelled otherwise, keeps its marks.
       {"/more/..", "[x]A.DAT\n[ ]B.DAT\n", "A.csv  conversion ended."},
   };
+  // Pressed by its letter, the button leaves the focus where it is.
   for (const bool byLetter : {true, false}) {
     for (const auto& row : rows) {
       form = std::make_unique<vk::frmBin_CSV>();
@@ -130,43 +126,37 @@ TEST_F(frmBin_CSVTest, ATypedFolderAndSaveConvertOrSayWhyNot) {
       form->activateWindow();
       ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
       check(0);
-      control<QLineEdit>(*form, "txtFolder(0)")->setFocus();
-      QTest::keyClicks(form->focusWidget(), QLatin1String(row.typed));
+      auto* box = control<QLineEdit>(*form, "txtFolder(0)");
+      box->setFocus();
+      QTest::keyClicks(box, QLatin1String(row.typed));
       type(*form, "txtFolder(1)", top.c_str());
-      // Pressed by its letter, the button leaves the focus where it is.
-      auto* save = control<QPushButton>(*form, "cmdCSVSave");
       if (byLetter) {
-        QTest::keyClick(form->focusWidget(), Qt::Key_S, Qt::AltModifier);
+        QTest::keyClick(box, Qt::Key_S, Qt::AltModifier);
       } else {
-        QTest::mouseClick(save, Qt::LeftButton);
+        QTest::mouseClick(control<QPushButton>(*form, "cmdCSVSave"), Qt::LeftButton);
       }
       const auto shown = [&] { return textIn<QLabel>(*form, "lblPrg"); };
-      const auto settled = [&] { return shown() == row.shown || !desk.log.empty(); };
-      EXPECT_TRUE(QTest::qWaitFor(settled)) << row.typed;
-      EXPECT_EQ(desk.takeLog() + shown(), row.shown);
-      EXPECT_EQ(row.list, listText(list(), 1));
+      EXPECT_TRUE(QTest::qWaitFor([&] { return shown() == row.shown || !desk.log.empty(); }));
+      EXPECT_EQ(desk.takeLog() + shown() + listText(list(), 1), row.shown + row.list);
       EXPECT_EQ(fs::remove(top + "/A.csv"), row.shown.starts_with("A.csv"));
-      EXPECT_FALSE(fs::exists(top + "/more/C.csv"));
     }
   }
 }
 
 TEST_F(frmBin_CSVTest, ConvertsTheCheckedFilesWithItsControlsLocked) {
   std::string during;
-  whileConverting([&] {
-    during = state() + vk::fromQt(control<QLabel>(*form, "lblPrgCnt")->text()) +
-             textIn<QPushButton>(*form, "cmdCancel");
-  });
+  const auto texts = [&] {
+    return state() + textIn<QLabel>(*form, "lblPrgCnt") + textIn<QPushButton>(*form, "cmdCancel");
+  };
+  whileConverting([&] { during = texts(); });
   check(1);
   press(*form, "cmdCSVSave");
   EXPECT_EQ(
       "10000000000"
-      "0%&Stop",
-      during);
-  EXPECT_EQ("&Close", textIn<QPushButton>(*form, "cmdCancel"));
-  EXPECT_EQ("11111111111", state());
-  EXPECT_EQ("B.csv  conversion ended.|100%",
-            textIn<QLabel>(*form, "lblPrg") + "|" + textIn<QLabel>(*form, "lblPrgCnt"));
+      "0%&Stop|11111111111"
+      "100%&Close",
+      during + "|" + texts());
+  EXPECT_EQ("B.csv  conversion ended.", textIn<QLabel>(*form, "lblPrg"));
   EXPECT_EQ("none 1,0.5", firstLine("A.csv") + " " + firstLine("B.csv"));
   control<QRadioButton>(*form, "optCoeff(1)")->click();
   control<QCheckBox>(*form, "chkDivision")->setChecked(true);
@@ -176,28 +166,21 @@ TEST_F(frmBin_CSVTest, ConvertsTheCheckedFilesWithItsControlsLocked) {
   EXPECT_EQ("", desk.takeLog());
 }
 
-TEST_F(frmBin_CSVTest, StopKeepsItOpen) {
-  check(0);
-  whileConverting([this] { press(*form, "cmdCancel"); });
-  press(*form, "cmdCSVSave");
-  EXPECT_TRUE(form->isVisible());
-  EXPECT_EQ("canceled.|0", textIn<QLabel>(*form, "lblPrg") + "|" +
-                               std::to_string(control<QProgressBar>(*form, "pbrFile")->value()));
-  EXPECT_FALSE(fs::exists(top + "/A.csv"));
-  press(*form, "cmdCancel");
-  EXPECT_FALSE(form->isVisible());
-}
-
-TEST_F(frmBin_CSVTest, ClosingItStopsTheWork) {
+TEST_F(frmBin_CSVTest, StopKeepsItOpenAndClosingStopsTheWork) {
   check(0);
   check(1);
-  whileConverting([&] {
-    form->close();
-    EXPECT_TRUE(form->isVisible());
-  });
-  press(*form, "cmdCSVSave");
-  EXPECT_FALSE(form->isVisible());
-  EXPECT_FALSE(fs::exists(top + "/A.csv") || fs::exists(top + "/B.csv"));
+  for (const bool stop : {true, false}) {
+    whileConverting([&] {
+      if (stop) press(*form, "cmdCancel");
+      if (!stop) form->close();
+      EXPECT_TRUE(form->isVisible());
+    });
+    press(*form, "cmdCSVSave");
+    EXPECT_EQ(stop, form->isVisible());
+    EXPECT_EQ("canceled.", textIn<QLabel>(*form, "lblPrg"));
+    EXPECT_EQ(0, control<QProgressBar>(*form, "pbrFile")->value());
+    EXPECT_FALSE(fs::exists(top + "/A.csv") || fs::exists(top + "/B.csv"));
+  }
   EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "storage/frmRouteDirectory.h"
 
-#include <sys/resource.h>
-
 #include <QCheckBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
@@ -10,16 +8,19 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QRadioButton>
 #include <QTabBar>
-#include <csignal>
 
 #include "base/mdlDataFolder.h"
+#include "base/mdlText.h"
 #include "instrument/simulator/library.h"
 #include "link/mdlCardDirectory.h"
 #include "link/mdlUSBCommand.h"
 #include "recorder/mdlBoxTable.h"
 #include "shell/mdlConfig.h"
+#include "storage/mdlHedDataWork.h"
 #include "storage/mdlTempFiles.h"
+#include "storage/mdlWaveData.h"
 #include "storage/mdlWaveOpenRequest.h"
 #include "tests/instrument/simulator/bench.h"
 #include "tests/storage/card_window.h"
@@ -32,6 +33,7 @@ constexpr int32_t kBoxSerial = 4810021;
 /// 131072 bytes are two blocks, 65538 a block and a rest of two bytes, 400 a rest only.
 const char* const kThreeRecordings =
     "[box 4810021]\nmodel = VK-480Qe\nrole = master\nsignal1 = sine 1800 1000\n"
+    "coefficients = 0.25,1,1,1\n"
     "recording = 4 200U 16384\nrecording = 1 005U 32769\nrecording = 2 001M 100\n";
 
 class frmRouteDirectoryTest : public ::testing::Test {
@@ -235,13 +237,12 @@ TEST_F(frmRouteDirectoryTest, LocksItsControlsDuringATransfer) {
     QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(0).center());
     click(2);
     control<QAction>(form, "mnuASelect")->trigger();
-    during += (form.isVisible() ? " open" : " closed") + state().substr(15);
+    EXPECT_EQ(during.substr(0, 26), state());
+    EXPECT_TRUE(form.isVisible());
   });
   press(form, "cmdBinSave");
-  EXPECT_EQ(
-      "000000000000000 picBinSave 50% DAT00001.DAT  Reading data file from the VK-480Q... open "
-      "picBinSave",
-      during);
+  EXPECT_EQ("000000000000000 picBinSave 50% DAT00001.DAT  Reading data file from the VK-480Q...",
+            during);
   EXPECT_EQ("111111111111011 picBinSave", state());
   EXPECT_TRUE(onCard("DAT00001.DAT") == saved("DAT00001.dat"));
   EXPECT_EQ("", desk.takeLog());
@@ -250,33 +251,36 @@ TEST_F(frmRouteDirectoryTest, LocksItsControlsDuringATransfer) {
   EXPECT_FALSE(form.isVisible());
 }
 
-TEST_F(frmRouteDirectoryTest, HandsItsChoicesToTheConversion) {
+TEST_F(frmRouteDirectoryTest, SavesAsCsvAsItsPageSays) {
   std::filesystem::create_directory(folder + "/there");
   open(vk::kTabCsv, {1});
   type(form, "txtFolder(1)", (folder + "/there").c_str());
   press(form, "cmdCSVSave");
+  EXPECT_EQ("Ended.", desk.takeLog() + label("lblPrg"));
+  control<QRadioButton>(form, "optCoeff(1)")->click();
   control<QCheckBox>(form, "chkDivision")->setChecked(true);
   control<QComboBox>(form, "cmbDivision")->setCurrentText("30000");
   press(form, "cmdCSVSave");
   const auto body = [&](const std::string& name) {
     const std::string text = saved("there/" + name);
     const auto at = text.find("\n1,");
-    return at == std::string::npos ? "none" : text.substr(at, text.find("\r\n30000,") - at);
+    return at == std::string::npos ? "none" : text.substr(at + 1);
   };
-  EXPECT_TRUE(body("DAT00002.csv") != "none");
-  EXPECT_TRUE(body("DAT00002_0001.csv") != "none");
-  EXPECT_TRUE(body("DAT00002_0002.csv") != "none");
+  const float slope = vk::toSingle(vk::headerValue(onCard("DAT00002.HED"), "SLOPE"));
+  EXPECT_EQ(slope, 0.25F);
+  std::istringstream data(onCard("DAT00002.DAT"));
+  std::vector<int16_t> value(1);
+  std::string scaled, raw;
+  for (int i = 1; i <= 30000; ++i) {
+    vk::readFrame(data, value);
+    scaled += vk::textOf(i) + "," + vk::textOf(vk::sampleValue(value[0], slope)) + "\r\n";
+    raw += vk::textOf(i) + "," + vk::textOf(value[0]) + "\r\n";
+  }
+  EXPECT_TRUE(body("DAT00002.csv").starts_with(scaled));
+  EXPECT_TRUE(body("DAT00002_0001.csv") == raw);
+  EXPECT_NE(body("DAT00002_0002.csv"), "none");
   EXPECT_EQ(body("DAT00002_0003.csv"), "none");
   EXPECT_EQ("111111111111011 picCSVSave", state());
-}
-
-TEST_F(frmRouteDirectoryTest, SavesAsCsv) {
-  open(vk::kTabCsv, {2});
-  press(form, "cmdCSVSave");
-  const std::string csv = saved("DAT00003.csv");
-  EXPECT_EQ("CSV Data,0.000sec - 0.099sec\r\nDATASET,", csv.substr(0, 38));
-  EXPECT_EQ(18 + 99, std::count(csv.begin(), csv.end(), '\n'));
-  EXPECT_EQ("Ended.", desk.takeLog() + label("lblPrg"));
 }
 
 TEST_F(frmRouteDirectoryTest, FetchesAFileForTheWaveView) {
@@ -299,28 +303,6 @@ TEST_F(frmRouteDirectoryTest, FetchesAFileForTheWaveView) {
   EXPECT_EQ(stem + ".dat\r\n" + stem + ".hed\r\n", vk::gTempFileList);
   EXPECT_EQ(0u, stem.find(desk.data.path().toStdString()));
   EXPECT_EQ("1,2,3,4", vk::waveOpenRequest.channelList[0]);
-}
-
-TEST_F(frmRouteDirectoryTest, AFullDiskLeavesTheBoxInStep) {
-  open(vk::kTabBinary, {0});
-  rlimit unlimited{};
-  getrlimit(RLIMIT_FSIZE, &unlimited);
-  const rlimit limit{1000, unlimited.rlim_max};
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &limit);
-  press(form, "cmdBinSave");
-  setrlimit(RLIMIT_FSIZE, &unlimited);
-  std::signal(SIGXFSZ, handler);
-  EXPECT_EQ("box[File Error][" + folder +
-                "/DAT00001.dat\r\nError has occurred.]\nbox[USB Error][canceled.]\n",
-            desk.takeLog());
-  EXPECT_EQ("Ended.", label("lblPrg"));
-  // The next command gets its own reply.
-  std::string text;
-  EXPECT_EQ(vk::kUsbOk, vk::usbHFL(kBoxSerial, "DAT00003", 362, text));
-  EXPECT_EQ(onCard("DAT00003.HED"), text.substr(0, 362));
-  EXPECT_EQ(vk::kUsbOk, vk::usbRUN(kBoxSerial));
-  EXPECT_EQ("", desk.takeLog() + saved("DAT00001.dat"));
 }
 
 TEST_F(frmRouteDirectoryTest, TheFolderPickersChoiceIsShown) {

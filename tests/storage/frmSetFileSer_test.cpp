@@ -35,10 +35,8 @@ TEST_F(frmSetFileSerTest, EditBoxesTakeEffectOnEnter) {
   addFile("B.DAT", "CH1", false);
   addFile("C.DAT", "x,y,z");
   open();
-  EXPECT_EQ("File name", vk::fromQt(tree().headerItem()->text(0)));
-  EXPECT_EQ("Series name(Specify by comma space)", vk::fromQt(tree().headerItem()->text(1)));
-  EXPECT_EQ(133, tree().columnWidth(0));
-  EXPECT_LE(197, tree().columnWidth(1));
+  EXPECT_EQ("File name|Series name(Specify by comma space)",
+            vk::fromQt(tree().headerItem()->text(0) + "|" + tree().headerItem()->text(1)));
   EXPECT_EQ("A.DAT|CH1,CH2\nC.DAT|x,y,z\n", rows());
   EXPECT_FALSE(control<QPushButton>(*form, "cmdSAutoSet")->isEnabled());
   clickRow(tree(), 1);

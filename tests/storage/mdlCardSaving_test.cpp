@@ -54,27 +54,6 @@ TEST_F(CardSavingTest, SavesTheCheckedRowsInOrder) {
   EXPECT_EQ(vk::waveRequestSet, 0);
 }
 
-TEST_F(CardSavingTest, AsksBeforeItOverwritesInEitherLetterCase) {
-  const struct {
-    std::string existing;
-    BoxAnswer answer;
-    std::string log, kept;
-  } rows[] = {
-      {"A.DAT", BoxAnswer::kNo, ask("A.DAT") + "label canceled.\n", "A.DAT 3\n"},
-      {"A.DAT", BoxAnswer::kClosed, ask("A.DAT") + done("A"), "A.dat 4\nA.hed 231\n"},
-      {"a.dat", BoxAnswer::kNo, done("A"), "A.dat 4\nA.hed 231\na.dat 3\n"},
-  };
-  for (const auto& row : rows) {
-    startOver();
-    desktop.answers = {row.answer};
-    place.put(row.existing, "old");
-    if (row.existing == "a.dat") place.put("A.hed", "old");
-    put("A");
-    EXPECT_EQ(save(), row.log + kEnd) << row.existing;
-    EXPECT_EQ(listing(), row.kept) << row.existing;
-  }
-}
-
 TEST_F(CardSavingTest, AfterAFailureTheUserDecides) {
   const struct {
     BoxAnswer answer;
@@ -95,48 +74,49 @@ TEST_F(CardSavingTest, AfterAFailureTheUserDecides) {
 }
 
 TEST_F(CardSavingTest, EachKindAsksAboutItsOwnFilesAsItsOwnDivisionSays) {
-  const std::string csv = "label A.DAT  reading ended.\nlabel Ended.\n";
+  const auto no = [](const char* name) { return ask(name) + "label canceled.\n" + kEnd; };
   const struct {
     vk::SaveKind kind;
     bool division;
-    std::string log;
+    BoxAnswer answer;
+    std::string existing, log, files;
   } rows[] = {
-      {vk::kSaveBinary, false, ask("A.DAT") + "label canceled.\n" + kEnd},
+      {vk::kSaveBinary, false, BoxAnswer::kNo, "A.DAT", no("A.DAT"), "A.DAT 3\n"},
+      {vk::kSaveBinary, false, BoxAnswer::kClosed, "A.DAT", ask("A.DAT") + done("A") + kEnd,
+       "A.dat 4\nA.hed 231\n"},
+      // A name in other letters is another file.
+      {vk::kSaveBinary, false, BoxAnswer::kNo, "a.dat", done("A") + kEnd,
+       "A.dat 4\nA.hed 231\na.dat 3\n"},
       // What the CSV page says about dividing is nothing to a pair.
-      {vk::kSaveBinary, true, ask("A.DAT") + "label canceled.\n" + kEnd},
-      {vk::kSaveCsv, false, ask("A.csv") + "label canceled.\n" + kEnd},
+      {vk::kSaveBinary, true, BoxAnswer::kNo, "A.dat", no("A.DAT"), "A.dat 3\n"},
+      {vk::kSaveCsv, false, BoxAnswer::kNo, "A.csv", no("A.csv"), "A.csv 3\n"},
       // The numbered names are asked about by the conversion itself.
-      {vk::kSaveCsv, true, csv + kEnd},
+      {vk::kSaveCsv, true, BoxAnswer::kNo, "A_0001.csv",
+       "label A.DAT  reading ended.\n" + ask("A_0001.csv") + kCanceled + "label Ended.\n1",
+       "A_0001.csv 3\n"},
   };
   for (const auto& row : rows) {
     startOver();
-    for (const char* name : {"A.dat", "A.csv"}) place.put(name, "old");
-    put("A", 65536);
+    place.put(row.existing, "old");
+    put("A");
     library().block(vktest::cardHeader());
     reading.csv.division = row.division;
-    desktop.answers = {BoxAnswer::kNo};
+    desktop.answers = {row.answer};
     EXPECT_EQ(save(row.kind), row.log);
-    EXPECT_EQ(saved("A.dat") + saved("A.csv"), "oldold");
-    EXPECT_EQ(saved("A_0001.csv").empty(), row.kind == vk::kSaveBinary || !row.division);
+    EXPECT_TRUE(listing().starts_with(row.files)) << listing();
   }
 }
 
-TEST_F(CardSavingTest, AfterAFailedConversionTheUserDecides) {
-  addFile("A");
-  addFile("B");
-  // Each refused header shows three boxes before the question.
-  desktop.answers.assign(7, BoxAnswer::kOk);
-  desktop.answers.push_back(BoxAnswer::kCancel);
-  const std::string log = save(vk::kSaveCsv);
-  EXPECT_TRUE(log.ends_with(kCanceled + "label Communication Error has occurred.\n2")) << log;
-}
-
 TEST_F(CardSavingTest, AnEndingProgramAsksNothingMore) {
-  put("A", 65536);
-  put("B");
-  endInYield(4);
-  EXPECT_EQ(save() + listing(), "end\n" + kEnd);
-  EXPECT_EQ(library().takeTranscript().find("HFLB"), std::string::npos);
+  for (int yields = 1; yields <= 5; ++yields) {
+    startOver();
+    desktop.ended = false;
+    put("A", 65536);
+    put("B");
+    endInYield(yields);
+    EXPECT_EQ(save() + listing(), "end\n" + kEnd);
+    EXPECT_EQ(library().takeTranscript().find("HFLB"), std::string::npos);
+  }
 }
 
 }  // namespace

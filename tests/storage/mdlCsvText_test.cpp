@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/mdlText.h"
+#include "tests/support/text_table.h"
 
 namespace {
 
@@ -15,29 +16,14 @@ vk::HeaderRecord header(const std::string& rate, const std::string& slope = "0.5
 }
 
 TEST(CsvText, TimesHaveTheFormatOfTheirRate) {
-  const struct {
-    int32_t rate;
-    const char* line;
-  } rows[] = {{10, "0.0sec - 102.3sec"},
-              {20, "0.00sec - 51.15sec"},
-              {50, "0.00sec - 20.46sec"},
-              {100, "0.00sec - 10.23sec"},
-              {200, "0.000sec - 5.115sec"},
-              {500, "0.000sec - 2.046sec"},
-              {1000, "0.000sec - 1.023sec"},
-              {2000, "0.0000sec - 0.5115sec"},
-              {5000, "0.0000sec - 0.2046sec"},
-              {10000, "0.0000sec - 0.1023sec"},
-              {20000, "0.00000sec - 0.05115sec"},
-              // The others stand in general form.
-              {1, "0sec - 1023sec"},
-              {2, "0sec - 511.5sec"},
-              {5, "0sec - 204.6sec"},
-              {50000, "0sec - 0.02046sec"},
-              {100000, "0sec - 0.01023sec"},
-              {200000, "0sec - 0.005115sec"}};
-  for (const auto& row : rows)
-    EXPECT_EQ(vk::csvTimeLine(0, 1023, row.rate), std::string("CSV Data,") + row.line);
+  // The rates at the end stand in general form.
+  vktest::expectAnswers(
+      "10=0.0sec - 102.3sec|20=0.00sec - 51.15sec|50=0.00sec - 20.46sec|100=0.00sec - 10.23sec|"
+      "200=0.000sec - 5.115sec|500=0.000sec - 2.046sec|1000=0.000sec - 1.023sec|"
+      "2000=0.0000sec - 0.5115sec|5000=0.0000sec - 0.2046sec|10000=0.0000sec - 0.1023sec|"
+      "20000=0.00000sec - 0.05115sec|1=0sec - 1023sec|2=0sec - 511.5sec|5=0sec - 204.6sec|"
+      "50000=0sec - 0.02046sec|100000=0sec - 0.01023sec|200000=0sec - 0.005115sec",
+      [](const std::string& rate) { return vk::csvTimeLine(0, 1023, std::stoi(rate)).substr(9); });
 }
 
 TEST(CsvText, HeadsAndNamesOfTheFiles) {
@@ -59,32 +45,29 @@ TEST(CsvText, EveryRawValueHasItsExactText) {
   const std::vector<float> slopes = {0.5F, 0.0305185F, 1000, 3e-9F, 1e34F, 0.5F};
   for (const bool scaled : {true, false}) {
     vk::CsvLines lines(slopes, scaled);
-    std::vector<unsigned char> frames;
-    std::string expected;
-    for (int i = 0; i < 65536 + 100; ++i) {
+    std::string frames, expected;
+    constexpr std::size_t kCount = 65536 + 100;
+    for (std::size_t i = 0; i < kCount; ++i) {
       const auto raw = static_cast<int16_t>(i);
       expected += std::to_string(i + 1);
       for (const float slope : slopes) {
-        frames.insert(frames.end(),
-                      {static_cast<unsigned char>(i), static_cast<unsigned char>(i >> 8)});
-        expected +=
-            "," + (scaled ? vk::textOf(static_cast<float>(raw) * slope) : std::to_string(raw));
+        frames += {static_cast<char>(raw), static_cast<char>(raw >> 8)};
+        expected += "," + (scaled ? vk::textOf(raw * slope) : std::to_string(raw));
       }
       expected += "\r\n";
     }
-    const std::size_t count = frames.size() / 2 / slopes.size();
-    std::string text(expected.size() + lines.lineRoom(), '~');
     // In pieces, which end where the room does.
-    const auto first = lines.write(text.data(), text.data() + 1000, frames.data(), count);
-    const auto rest =
-        lines.write(first.end, text.data() + text.size(),
-                    frames.data() + first.lines * slopes.size() * 2, count - first.lines);
+    std::string text(expected.size() + lines.lineRoom(), '~');
+    const auto* bytes = reinterpret_cast<const unsigned char*>(frames.data());
+    const auto first = lines.write(text.data(), text.data() + 1000, bytes, kCount);
     EXPECT_LT(first.lines, 100U);
-    EXPECT_EQ(first.lines + rest.lines, count);
+    const auto rest = lines.write(first.end, text.data() + text.size(),
+                                  bytes + first.lines * slopes.size() * 2, kCount - first.lines);
+    EXPECT_EQ(first.lines + rest.lines, kCount);
     text.resize(static_cast<std::size_t>(rest.end - text.data()));
     EXPECT_TRUE(text == expected) << scaled;
     lines.restart();
-    lines.write(text.data(), text.data() + 1, frames.data(), 1);
+    lines.write(text.data(), text.data() + 1, bytes, 1);
     EXPECT_EQ(text.substr(0, 4), "1,0,");
   }
   EXPECT_EQ(vk::textOf(30000.0F * 1000), "3E+07");

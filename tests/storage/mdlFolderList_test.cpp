@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "storage/mdlFolderList.h"
 
+#include "storage/mdlFolderTree.h"
 #include "tests/storage/card_fixture.h"
 
 namespace {
@@ -27,16 +28,25 @@ TEST_F(FolderListTest, DrivesAreTheRootTheDocumentsAndMedia) {
   EXPECT_EQ(found, "0 1 1 0 2 4 0 ");
 }
 
-TEST_F(FolderListTest, ListsFoldersAndKeepsThePathOfAnUnreadableDrive) {
-  for (const char* name : {"b/x", "A/x", "c/x", ".hidden/x", "file"}) place.put(name, "");
-  EXPECT_EQ(vk::subfolders(folder.string()), (Names{"A", "b", "c", "tmp"}));
-  EXPECT_EQ(vk::subfolders((folder / "gone").string()), Names{});
-  EXPECT_EQ(vk::pathAfterDrive(folder.string(), "/old"), folder.string());
-  EXPECT_EQ(vk::pathAfterDrive((folder / "file").string(), "/old"), "/old");
+TEST_F(FolderListTest, AHiddenFolderShowsOnlyWhenItIsOpen) {
+  const std::string top = folder.string();
+  for (const char* name : {"b/x", "A/x", ".hidden/x", "file"}) place.put(name, "");
+  const auto rows = [&](const std::string& open) {
+    const auto found = vk::folderRows(top, open);
+    std::string text;
+    for (const auto& path : found.paths) text += vk::folderName(path) + " ";
+    return text + std::to_string(found.opened);
+  };
+  EXPECT_EQ(rows(top + "/b") + "|" + rows(top + "/.hidden") + "|" + rows(""),
+            "A b tmp 1|.hidden A b tmp 0|A b tmp 3");
+  EXPECT_EQ(vk::startFolder(top + "/gone/deep") + vk::startFolder(top + "/b/.."), top + top);
+  EXPECT_EQ(vk::folderChain("/", "/home/user/"), (Names{"/", "/home", "/home/user"}));
+  EXPECT_EQ(vk::folderChain("/media/card", "/media/cards/a"), Names{"/media/card"});
+  // A drive that cannot be read leaves the path.
+  EXPECT_EQ(vk::pathAfterDrive(top, "/old") + vk::pathAfterDrive(top + "/file", "/old"),
+            top + "/old");
   desktop.folders[vk::SpecialFolder::kMyDocuments] = folder;
-  const Names drives = vk::currentDrives();
-  ASSERT_GE(drives.size(), 2U);
-  EXPECT_EQ(drives[0] + drives[1], "/" + folder.string());
+  EXPECT_EQ(vk::currentDrives().at(1), top);
 }
 
 }  // namespace
