@@ -8,10 +8,6 @@ using vktest::cardHeader;
 using vktest::library;
 using vktest::wave;
 
-const std::string kSavedHeader =
-    "DATASET DAT00001|VERSION 1|SERIES CH1,CH2|DATE 01-05-2026|TIME 09:30:00|RATE 1000|"
-    "VERT_UNITS ue,V|HORZ_UNITS SEC|NUM_SERIES 2|STORAGE_MODE INTERLACED|FILE_TYPE INTEGER|"
-    "SLOPE 0.5,0.25|X_OFFSET 0|Y_OFFSET 0,0|NUM_SAMPS 16384|";
 const std::string kStart = "0%\nlabel DAT00001.DAT  Reading data file from the VK-480Q...\n";
 const std::string kEnd = "label DAT00001.DAT  reading ended.\n";
 const std::string kRequests =
@@ -61,7 +57,9 @@ TEST_F(CardTransferTest, SizesInBlocksAndTail) {
     EXPECT_EQ(library().takeTranscript(), transcript);
     EXPECT_EQ(takeLog(), kStart + percents + "100%\n" + kEnd);
     EXPECT_TRUE(saved("DAT00001.dat") == wave(size)) << size;
-    EXPECT_EQ(readable(saved("DAT00001.hed")), kSavedHeader);
+    // The blanks behind the first value go.
+    EXPECT_EQ(saved("DAT00001.hed"),
+              "DATASET DAT00001" + cardHeader().substr(cardHeader().find("\r\n")));
   }
   // A tail of no bytes writes what the buffer holds.
   reading.files[0].size = 65600;
