@@ -104,7 +104,14 @@ TEST_F(frmBin_CSVTest, FoldersArePickedOrTyped) {
   choose(0, nullptr);
   EXPECT_EQ(more + "|" + more, folders());
   EXPECT_EQ("[ ]C.DAT\n", listText(list(), 1));
-  enter(*form, "txtFolder(0)", top.c_str());
+  // A typed folder is listed when its box is left.
+  form->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+  auto* box = control<QLineEdit>(*form, "txtFolder(0)");
+  box->setFocus();
+  box->selectAll();
+  QTest::keyClicks(box, vk::toQt(top));
+  list().setFocus();
   EXPECT_EQ("[ ]A.DAT\n[ ]B.DAT\n", listText(list(), 1));
 }
 
