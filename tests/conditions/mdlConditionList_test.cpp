@@ -111,24 +111,19 @@ TEST_F(ConditionListTest, LevelFields) {
 }
 
 TEST_F(ConditionListTest, EachFailedExchangeIsALine) {
-  const struct {
-    const char* request;
-    const char* line;
-    std::size_t lines;
-    bool box;
-  } rows[] = {{"LST0", "Channel Mode=USB ERROR (MEASURE SETTING);\n", 12, true},
-              {"LST1", "Unit=USB ERROR (UNIT SETTING);\n", 21, true},
-              {"LST2", "Coefficient=USB ERROR (COEFF SETTING);\n", 21, true},
-              {"STA20", "Date/Time=USB ERROR (STATUS);\n", 16, false},
-              {"FLN", "Mes_File/Res_File=USB ERROR (FILE);\n", 21, false}};
-  for (const auto& row : rows) {
+  const std::tuple<const char*, const char*, int, bool> rows[] = {
+      {"LST0", "Channel Mode=USB ERROR (MEASURE SETTING);\n", 12, true},
+      {"LST1", "Unit=USB ERROR (UNIT SETTING);\n", 21, true},
+      {"LST2", "Coefficient=USB ERROR (COEFF SETTING);\n", 21, true},
+      {"STA20", "Date/Time=USB ERROR (STATUS);\n", 16, false},
+      {"FLN", "Mes_File/Res_File=USB ERROR (FILE);\n", 21, false}};
+  for (const auto& [request, line, lines, box] : rows) {
     SetUp();
-    replies[row.request] = "-1005";
-    EXPECT_NE(listed().find(row.line), std::string::npos) << listed();
-    library().takeTranscript();
-    EXPECT_EQ(fillConditionList(kSerial).size(), row.lines) << row.request;
-    const bool shown = library().takeTranscript().find("box[USB Error]") != std::string::npos;
-    EXPECT_EQ(shown, row.box) << row.request;
+    replies[request] = "-1005";
+    const std::string text = listed();
+    EXPECT_NE(text.find(line), std::string::npos) << text;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), lines + 1) << request;
+    EXPECT_EQ(library().takeTranscript().find("box[USB Error]") != std::string::npos, box);
   }
 }
 

@@ -14,6 +14,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "desktop/clsFieldGuard.h"
+#include "desktop/frmStatusBar.h"
 #include "desktop/qtText.h"
 #include "tests/support/window_tools.h"
 
@@ -46,6 +48,7 @@ TEST(QtDesktop, EveryWayOutOfABoxHasItsAnswer) {
     BoxButtons buttons;
     std::function<void(QMessageBox&)> action;
     BoxAnswer answer;
+    BoxIcon icon = BoxIcon::kExclamation;
   };
   const Row rows[] = {
       {"ok", BoxButtons::kOk, press(QMessageBox::Ok), BoxAnswer::kOk},
@@ -55,6 +58,7 @@ TEST(QtDesktop, EveryWayOutOfABoxHasItsAnswer) {
       {"ok-cancel closed", BoxButtons::kOkCancel, close, BoxAnswer::kCancel},
       {"ok-cancel escape", BoxButtons::kOkCancel, escape, BoxAnswer::kCancel},
       {"ok-cancel enter", BoxButtons::kOkCancel, enter, BoxAnswer::kOk},
+      {"no way back", BoxButtons::kOkCancel, enter, BoxAnswer::kCancel, BoxIcon::kQuestion},
       {"yes", BoxButtons::kYesNo, press(QMessageBox::Yes), BoxAnswer::kYes},
       {"no", BoxButtons::kYesNo, press(QMessageBox::No), BoxAnswer::kNo},
       {"yes-no closed", BoxButtons::kYesNo, close, BoxAnswer::kClosed},
@@ -62,14 +66,16 @@ TEST(QtDesktop, EveryWayOutOfABoxHasItsAnswer) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     whenBoxOpens(row.action);
-    EXPECT_EQ(desk.messageBox("File Process", "text", row.buttons, BoxIcon::kExclamation),
-              row.answer);
+    EXPECT_EQ(desk.messageBox("File Process", "text", row.buttons, row.icon), row.answer);
   }
 }
 
 TEST(QtDesktop, ABoxShowsItsTextAsItStands) {
   vk::clsQtDesktop desk;
-  whenBoxOpens([](QMessageBox& box) {
+  const auto pointer = [] { return QGuiApplication::overrideCursor()->shape(); };
+  desk.setHourglass(true);
+  whenBoxOpens([&](QMessageBox& box) {
+    EXPECT_EQ(pointer(), Qt::ArrowCursor);
     EXPECT_EQ(box.windowTitle(), "USB Error");
     EXPECT_EQ(box.text(), "<b>1 & 2</b>");
     EXPECT_EQ(box.icon(), QMessageBox::Warning);
@@ -79,6 +85,8 @@ TEST(QtDesktop, ABoxShowsItsTextAsItStands) {
   });
   std::ignore =
       desk.messageBox("USB Error", "<b>1 & 2</b>", BoxButtons::kOk, BoxIcon::kExclamation);
+  EXPECT_EQ(pointer(), Qt::WaitCursor);
+  desk.setHourglass(false);
 }
 
 TEST(QtDesktop, AFileDialogTakesAnyNameAndAsksNothing) {
@@ -89,6 +97,7 @@ TEST(QtDesktop, AFileDialogTakesAnyNameAndAsksNothing) {
     QTimer::singleShot(0, qApp, [name] {
       auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
       ASSERT_NE(dialog, nullptr);
+      EXPECT_EQ(dialog->nameFilters().constFirst(), "Setting File (*.set) (*.set *.SET)");
       auto* field = control<QLineEdit>(*dialog, "fileNameEdit");
       QTest::keyClicks(field, name);
       auto* buttons = control<QDialogButtonBox>(*dialog, "buttonBox");
@@ -107,6 +116,28 @@ TEST(QtDesktop, AFileDialogTakesAnyNameAndAsksNothing) {
   };
   for (const auto kind : {vk::FileDialogKind::kOpen, vk::FileDialogKind::kSave})
     for (const char* name : {"in", "in.set", "none"}) EXPECT_EQ(typed(kind, name), name);
+}
+
+TEST(StatusBar, HasASecondLineWhenThereIsOne) {
+  vk::frmStatusBar window("CSV");
+  for (const char* second : {"", "A.dat"}) {
+    window.setLines("1 of 2", second);
+    window.show();
+    const auto* line = control<QLabel>(window, "lblSub2");
+    EXPECT_EQ(line->isVisible() ? line->text() : QString(), second);
+  }
+}
+
+TEST(FieldGuard, AFieldOutOfReachIsNotChecked) {
+  int complaints = 0;
+  vk::clsFieldGuard guard([&] { ++complaints; }, [] {});
+  QLineEdit field("x");
+  guard.watch(field, [](const std::string&) { return false; });
+  for (const bool within : {false, true}) {
+    field.setEnabled(within);
+    EXPECT_EQ(guard.checkAll(), !within);
+    EXPECT_EQ(complaints, within ? 1 : 0);
+  }
 }
 
 TEST(QtDesktop, WaitingEndsWithTheTimeOrAnEvent) {

@@ -19,7 +19,6 @@ TEST(DPointCheck, OnlyAPointPassesAndTheLanguageSelectsTheMessage) {
       "パネル」の「地域のプロパティ」で、数値の小数点の記号をピリオド「.」に変更してください。   "
       "\r\nその後、ソフトウェアを再起動してください。";
   const std::tuple<const char*, int32_t, std::string> rows[] = {{".", 1, ""},
-                                                                {",", 1, head + english + tail},
                                                                 {"", 1, head + english + tail},
                                                                 {"..", 1, head + english + tail},
                                                                 {",", 0, head + japanese + tail},

@@ -16,36 +16,34 @@ namespace {
 class frmSelectMeterChTest : public BoxWindowTest {
  protected:
   frmSelectMeterChTest() { connect(kThreeBoxes); }
-  std::string listText(QDialog& form, const char* name) {
-    const auto* list = control<QComboBox>(form, name);
-    std::string text;
-    for (int i = 0; i < list->count(); ++i) text += vk::fromQt(list->itemText(i)) + ",";
-    return text;
-  }
 };
+
+std::string listText(QDialog& form, const char* name) {
+  const auto* list = control<QComboBox>(form, name);
+  std::string text;
+  for (int i = 0; i < list->count(); ++i) text += vk::fromQt(list->itemText(i)) + ",";
+  return text;
+}
 
 TEST_F(frmSelectMeterChTest, EachModeOffersItsOwn) {
   const std::string connected = "4810021,4800137,2400052,";
   const std::string eight = connected + "disconnect,disconnect,disconnect,disconnect,disconnect,";
-  const struct {
-    int32_t mode;
-    bool check;
-    std::string meters, channels;
-    const char* button;
-  } rows[] = {{vk::kSelectBoxAndChannel, false, "All Meters," + eight,
-               "All Channels,Channel 1,Channel 2,Channel 3,Channel 4,", "Balance"},
-              {vk::kSelectBox, false, eight, "", "Select"},
-              {vk::kSelectBox, true, eight, "", "Check"},
-              {vk::kSelectConnected, false, connected, "", "Select"}};
-  for (const auto& row : rows) {
-    vk::gSelMode = row.mode;
-    vk::frmSelectMeterCh form(row.check);
+  const std::tuple<int32_t, bool, std::string> rows[] = {
+      {vk::kSelectBoxAndChannel, false,
+       "All Meters," + eight + "|All Channels,Channel 1,Channel 2,Channel 3,Channel 4,|Balance"},
+      {vk::kSelectBox, false, eight + "||Select"},
+      {vk::kSelectBox, true, eight + "||Check"},
+      {vk::kSelectConnected, false, connected + "||Select"}};
+  for (const auto& [mode, check, texts] : rows) {
+    vk::gSelMode = mode;
+    vk::frmSelectMeterCh form(check);
     form.show();
     EXPECT_EQ(form.windowTitle(), "Meter-Channel selection");
-    EXPECT_EQ(listText(form, "cmbMeter"), row.meters);
-    EXPECT_EQ(listText(form, "cmbChannel"), row.channels);
-    EXPECT_EQ(control<QPushButton>(form, "cmdRun")->text(), row.button);
-    EXPECT_EQ(control<QComboBox>(form, "cmbChannel")->isVisible(), !row.channels.empty());
+    EXPECT_EQ(listText(form, "cmbMeter") + "|" + listText(form, "cmbChannel") + "|" +
+                  vk::fromQt(control<QPushButton>(form, "cmdRun")->text()),
+              texts);
+    EXPECT_EQ(control<QComboBox>(form, "cmbChannel")->isVisible(),
+              mode == vk::kSelectBoxAndChannel);
     QTest::keyClick(&form, Qt::Key_Escape);  // cancels
     EXPECT_TRUE(vk::gSelSerial == vk::kSelectCancelled && !form.isVisible());
     vk::gSelSerial = 5;

@@ -13,15 +13,33 @@
 namespace vktest {
 namespace {
 
+/// A user who has no patience.
+class EscapingDesktop : public WindowDesktop {
+ public:
+  explicit EscapingDesktop(QWidget& form) : form_(form) {}
+  void doEvents() override {
+    QTest::keyClick(&form_, Qt::Key_Escape);
+    clsQtDesktop::doEvents();
+  }
+
+ private:
+  QWidget& form_;
+};
+
 class frmStartTest : public BoxWindowTest {
  protected:
-  /// Shows the form and lets it search.
+  /// Shows the form and lets it search, which it does to the end.
   void search(vk::frmStart& start, const std::string& scenario) {
     bench.bus.rig.recorders.clear();
     bench.load(scenario);
     start.show();
     auto* ok = control<QPushButton>(start, "cmdOK");
-    EXPECT_TRUE(QTest::qWaitFor([ok] { return ok->isEnabled(); }));
+    {
+      const EscapingDesktop impatient(start);
+      EXPECT_TRUE(QTest::qWaitFor([ok] { return ok->isEnabled(); }));
+    }
+    vk::setDesktop(&desk);
+    EXPECT_TRUE(start.isVisible());
   }
   static std::string log(vk::frmStart& start) {
     return vk::fromQt(control<QPlainTextEdit>(start, "txtComment")->toPlainText());
@@ -88,11 +106,7 @@ TEST_F(frmStartTest, EveryResultOfTheSearchHasItsWayOut) {
   std::string nine;
   for (int i = 0; i < 9; ++i) nine += "[box 480010" + std::to_string(i) + "]\n";
   const std::string upgrade = "[box 4800137]\nupgrade_mode = yes\n";
-  const struct {
-    std::string scenario;
-    int32_t mode;
-    const char* log;
-  } rows[] = {
+  const std::tuple<std::string, int32_t, const char*> rows[] = {
       {"", vk::kStartNormal, "VK-480Q is not connected.\n"},
       {nine, vk::kStartTooMany, "Maximum number of connection is 8.\nConfirm the connection.\n"},
       {upgrade, vk::kStartUpgrade,
@@ -101,14 +115,15 @@ TEST_F(frmStartTest, EveryResultOfTheSearchHasItsWayOut) {
       {upgrade + "[box 4810021]\n", vk::kStartSeveralUpgrade,
        "[Caution !!]\nSeveral VK-480Qs in upgrade mode of program are connected.\n"
        "Cannot be upgraded with several units in use.\n"}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.mode);
+  for (const auto& [scenario, mode, said] : rows) {
+    SCOPED_TRACE(mode);
     vk::gStartOK = 1;
     vk::frmStart start;
-    search(start, row.scenario);
-    EXPECT_EQ(vk::gStartOK, row.mode == vk::kStartTooMany ? 0 : 1);
-    EXPECT_EQ(vk::gStartMode, row.mode);
-    EXPECT_EQ(frmStartTest::rows(start) + log(start), row.log);
+    search(start, scenario);
+    EXPECT_EQ(vk::gStartOK, mode == vk::kStartTooMany ? 0 : 1);
+    EXPECT_EQ(vk::gStartMode, mode);
+    EXPECT_EQ(frmStartTest::rows(start) + log(start), said);
+    EXPECT_FALSE(control<QPushButton>(start, "cmdSet")->isEnabled());
     control<QPushButton>(start, "cmdOK")->click();
     EXPECT_TRUE(vk::gStartOK == 1 && !start.isVisible());
   }

@@ -15,6 +15,7 @@
 
 #include "base/mdlDataFolder.h"
 #include "link/mdlUSBCommand.h"
+#include "recorder/mdlSelectMeter.h"
 #include "storage/mdlTempFiles.h"
 #include "tests/support/fake_monitor.h"
 
@@ -210,36 +211,56 @@ TEST_F(mdiMainTest, TheTwentiethClickShowsTheCounters) {
   vk::resetCommCounters();
 }
 
+TEST_F(mdiMainTest, EachJobOffersItsBoxes) {
+  open();
+  const std::pair<const char*, int32_t> rows[] = {
+      {"mnuFMeterRead", vk::kSelectBox},     {"mnuEMeasureSet", vk::kSelectBox},
+      {"mnuETimeSet", vk::kSelectConnected}, {"mnuCCAL", vk::kSelectConnected},
+      {"mnuCSetList", vk::kSelectBox},       {"mnuCBalance", vk::kSelectBoxAndChannel},
+      {"mnuCCFinit", vk::kSelectConnected}};
+  for (const auto& [name, mode] : rows) {
+    vk::gSelMode = 0;
+    inModal("frmSelectMeterCh", [](QDialog& choice) { choice.reject(); });
+    item(name).trigger();
+    EXPECT_EQ(vk::gSelMode, mode) << name;
+  }
+}
+
+TEST_F(mdiMainTest, ABalanceOfAllMetersAsksEachBox) {
+  open();
+  bench.box(1).faults.add({vksim::FaultKind::kError, "BAL", 20, 1});
+  inModal("frmSelectMeterCh", [](QDialog& choice) {
+    for (const char* name : {"cmbMeter", "cmbChannel"})
+      control<QComboBox>(choice, name)->setCurrentIndex(0);
+    control<QPushButton>(choice, "cmdRun")->click();
+  });
+  item("mnuCBalance").trigger();
+  EXPECT_EQ(desk.takeLog(), "box[USB Error][Parameter Error[ERROR-20]]\n");
+}
+
 TEST_F(mdiMainTest, ReadingACardGoesOverTheChoiceOfABox) {
   open();
-  const struct {
-    const char* button;
-    int meter;
-    bool fault, opens;
-    const char* log;
-  } rows[] = {{"cmdRun", 0, false, true, ""},
-              {"cmdCancel", 0, true, false, ""},
-              {"cmdRun", 7, true, false, ""},
-              {"cmdRun", 0, true, false, "box[USB Error][Route directory breaks.[ERROR-43]]\n"}};
-  for (const auto& row : rows) {
-    SCOPED_TRACE(std::string(row.button) + std::to_string(row.meter));
+  const std::pair<int, const char*> rows[] = {
+      {0, "card;"}, {7, ""}, {0, "box[USB Error][Route directory breaks.[ERROR-43]]\n"}};
+  for (const auto& [meter, log] : rows) {
+    SCOPED_TRACE(log);
     status()->start();
-    if (row.fault) bench.box(0).faults.add({vksim::FaultKind::kError, "RTD", 43, 1});
-    int opened = 0;
-    inModal("frmSelectMeterCh", [&](QDialog& choice) {
+    const bool opens = log == std::string("card;");
+    if (!opens) bench.box(0).faults.add({vksim::FaultKind::kError, "RTD", 43, 1});
+    std::string seen;
+    inModal("frmSelectMeterCh", [&, meter = meter](QDialog& choice) {
       EXPECT_FALSE(status()->isActive());
-      control<QComboBox>(choice, "cmbMeter")->setCurrentIndex(row.meter);
-      if (row.opens) {
+      control<QComboBox>(choice, "cmbMeter")->setCurrentIndex(meter);
+      if (opens) {
         inModal("frmRouteDirectory", [&](QDialog& card) {
-          ++opened;
+          seen = "card;";
           control<QPushButton>(card, "cmdCancel")->click();
         });
       }
-      control<QPushButton>(choice, row.button)->click();
+      control<QPushButton>(choice, "cmdRun")->click();
     });
     item("mnuFMeterRead").trigger();
-    EXPECT_EQ(desk.takeLog(), row.log);
-    EXPECT_EQ(opened, row.opens ? 1 : 0);
+    EXPECT_EQ(seen + desk.takeLog(), log);
     EXPECT_TRUE(status()->isActive());
   }
 }
@@ -266,11 +287,12 @@ TEST_F(mdiMainTest, TheEndKeepsTheSettingsAndClearsTheTemporaryFiles) {
   open();
   click("optStaContents", 3);
   const std::string listed = desk.data.path().toStdString() + "/listed.dat";
-  std::ofstream(listed) << "x";
+  const std::string temporary = vk::tempFolder() + "A.dat";
+  for (const auto& name : {listed, temporary}) std::ofstream(name) << "x";
   vk::gTempFileList = listed + "\r\n";
   item("mnuFEND").trigger();
   EXPECT_EQ(desk.takeLog(), "end\n");
-  EXPECT_FALSE(std::filesystem::exists(listed));
+  EXPECT_FALSE(std::filesystem::exists(listed) || std::filesystem::exists(temporary));
   EXPECT_NE(fileText(vk::configPath()).find("STATUS_CONTENTS 3\r\n"), std::string::npos);
   EXPECT_EQ(bench.bus.status(), 0);
   vk::gTempFileList.clear();

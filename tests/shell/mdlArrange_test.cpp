@@ -6,8 +6,9 @@
 namespace vk {
 namespace {
 
+using Places = std::vector<TilePlace>;
+
 TEST(Arrange, TilesCoverTheAreaWithoutGaps) {
-  using Places = std::vector<TilePlace>;
   EXPECT_EQ(tilePlaces(Tiling::kHorizontal, 3, 100, 350),
             (Places{{0, 0, 100, 116}, {0, 116, 100, 117}, {0, 233, 100, 117}}));
   EXPECT_EQ(tilePlaces(Tiling::kVertical, 2, 401, 50),
@@ -24,7 +25,6 @@ TEST(Arrange, TilesCoverTheAreaWithoutGaps) {
 }
 
 TEST(Arrange, ACascadeKeepsTheSizes) {
-  using Places = std::vector<TilePlace>;
   const Places windows{{9, 9, 300, 70}, {0, 0, 50, 60}, {7, 7, 20, 20}};
   EXPECT_EQ(cascadePlaces(windows, 900, 160),
             (Places{{0, 0, 300, 70}, {28, 28, 50, 60}, {0, 0, 20, 20}}));

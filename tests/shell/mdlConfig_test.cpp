@@ -94,12 +94,6 @@ TEST_F(Config, DataFolderStandsInForAFolderThatCannotBeRead) {
     EXPECT_EQ(readAnew(), own().string() + "/") << bytes.size();
     EXPECT_EQ(vktest::DataFolder::bytesOf(file()), bytes);
   }
-  // The same with a folder in place of the file.
-  fs::remove(file());
-  fs::create_directories(file() / "inside");
-  EXPECT_EQ(readAnew(), own().string() + "/");
-  writeConfig();
-  EXPECT_TRUE(fs::is_directory(file() / "inside"));
 }
 
 TEST_F(Config, WithoutADataFolderNothingIsDone) {

@@ -51,7 +51,6 @@ class MainRun : public testing::Test {
     setDefaults();
   }
   void note(const std::string& line) { desktop_.log.push_back(line); }
-  fs::path configFile() const { return folder_.path() / "NRV/VK-480Q CONTROLLER/VK480Q.cfg"; }
 
   const fs::path before_;
   vktest::DataFolder folder_;
@@ -70,7 +69,6 @@ TEST_F(MainRun, RoadsByStartMode) {
       {1, 1, 1, "start form\nupgrade form\nend\n", "timeout(7)\n"},
       {2, 1, 1, "start form\nend\n", "timeout(7)\n"},
       {3, 1, 1, "start form\n", "timeout(7)\n"},
-      {1, 0, 1, "start form\nend\n", "timeout(7)\nstatus\nclose\n"},
       {3, 0, 0, "start form\nend\n", "timeout(7)\nstatus\n"}};
   for (const auto& [mode, ok, open, stages, transcript] : rows) {
     desktop_.ended = false;
@@ -158,19 +156,6 @@ TEST_F(MainRun, LoopSleepsAfterAPassWithoutABoxToAsk) {
   EXPECT_TRUE(desktop_.yields.empty());
 }
 
-TEST_F(MainRun, ShutDownKeepsTheSettingsAndDropsTheTemporaryFiles) {
-  vktest::library().open = 1;
-  const auto temporary = folder_.put("NRV/VK-480Q CONTROLLER/tmp/A.dat", "1");
-  const auto listed = folder_.put("B.dat", "1");
-  gStatusContents = 2;
-  const std::string text = configText() + "\r\n";
-  shutDown(listed.string() + "\r\n");
-  EXPECT_EQ(vktest::DataFolder::bytesOf(configFile()), text);
-  EXPECT_FALSE(fs::exists(temporary) || fs::exists(listed));
-  EXPECT_EQ(vktest::library().takeTranscript(), "status\nclose\n");
-  EXPECT_EQ(desktop_.takeLog(), "end\n");
-}
-
 TEST_F(MainRun, ReconnectKeepsTheMonitorsAndFindsTheBoxesAnew) {
   vktest::plugIn({{1, vktest::ScriptedBox{}}});
   gBoxTable[1].handle = kLostHandle;
@@ -207,8 +192,9 @@ TEST_F(MainRun, ReconnectKeepsAllSettings) {
   for (const bool writable : {true, false}) {
     for (const bool refused : {false, true}) {
       SCOPED_TRACE(testing::Message() << writable << refused);
-      fs::remove_all(configFile());
-      if (!writable) fs::create_directories(configFile());
+      const auto file = folder_.path() / "NRV/VK-480Q CONTROLLER/VK480Q.cfg";
+      fs::remove_all(file);
+      if (!writable) fs::create_directories(file);
       setDefaults();
       vktest::library() = {};
       if (refused) vktest::plugIn({{1, upgrade}});
@@ -238,16 +224,6 @@ TEST_F(MainRun, ReconnectRunsOnceAndTouchesNoWindowOnceTheProgramEnds) {
   desktop_.yields.push_back([this] { shutDown(""); });
   EXPECT_FALSE(autoReconnect(log_));
   EXPECT_EQ(desktop_.takeLog(), "end\n");
-}
-
-TEST_F(MainRun, QuestionBeforeAReconnectByHand) {
-  for (const auto answer : {BoxAnswer::kOk, BoxAnswer::kCancel, BoxAnswer::kClosed}) {
-    desktop_.answers = {answer};
-    EXPECT_EQ(askReconnect(), answer == BoxAnswer::kOk);
-    EXPECT_EQ(desktop_.takeLog(),
-              "box[Re-connect][Reconnected and connected VK-480Q is recognized.][ok-cancel]"
-              "[information]\n");
-  }
 }
 
 }  // namespace
