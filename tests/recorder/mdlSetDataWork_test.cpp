@@ -70,7 +70,7 @@ class SetDataWork : public ::testing::Test {
   /// Asks with positions and what is written there over the default string; the answer is the
   /// fields that then differ from those of the default string, "refused" when the row stays.
   static std::string decoded(int16_t model, const std::string& question) {
-    std::string text(!modelFamily(model).excitation ? kDefaultSetLow : kDefaultSetHigh);
+    std::string text(modelFamily(model).defaultSet);
     place(model);
     EXPECT_EQ(decodeSettingString(kSerial, text), 0);
     std::istringstream usual(conditionsOf(row()));
@@ -95,22 +95,20 @@ class SetDataWork : public ::testing::Test {
 };
 
 TEST_F(SetDataWork, DecodesTheStringsOfBothFamilies) {
-  const MeasureSetting fresh;
-  EXPECT_EQ(conditionsOf(fresh) + joined("unit", fresh.unit) + joined("coeff", fresh.coeff),
+  EXPECT_EQ(conditionsOf({}),
             "mode 2\nrange 4,4,4,4\nfilter 6,6,6,6\ntrigger 1\nslope 0,2,2,2\n"
-            "level 10,10,10,10\ntime 2\npre 0\nsize 7\ncarrier 2,2,2,2\n"
-            "unit 0,0,0,0\ncoeff 1,1,1,1\n");
-  for (const int16_t model : {kVk240Q, kVk240Qe, kVk480Q, kVk480Qe}) {
+            "level 10,10,10,10\ntime 2\npre 0\nsize 7\ncarrier 2,2,2,2\n");
+  for (const int16_t model : {kVk240Qe, kVk480Q}) {
     place(model);
     auto expected = gBoxTable;  // nothing else of the row moves, nor any other row
     MeasureSetting& box = expected[2];
-    box.filter.fill(!modelFamily(model).excitation ? 4 : 6);
-    box.carrier.fill(!modelFamily(model).excitation ? 0 : 2);
+    const ModelFamily& family = modelFamily(model);
+    box.filter.fill(family.excitation ? 6 : 4);
+    box.carrier.fill(family.excitation ? 2 : 0);
     box.sampling = 5;
     box.triggerLevel.fill(0.0F);
     box.triggerLevel[1] = 10.0F;
-    const std::string text(!modelFamily(model).excitation ? kDefaultSetLow : kDefaultSetHigh);
-    EXPECT_EQ(decodeSettingString(kSerial, text + "\r\n                         "), 0);
+    EXPECT_EQ(decodeSettingString(kSerial, std::string(family.defaultSet) + "\r\n   "), 0);
     EXPECT_EQ(conditionsOf(row()), conditionsOf(box));
     EXPECT_EQ(gBoxTable, expected);
   }
@@ -143,13 +141,13 @@ TEST_F(SetDataWork, DecodesEachField) {
 }
 
 TEST_F(SetDataWork, FailsWithoutANumberOrABox) {
-  for (std::size_t length = 0; length < kDefaultSetHigh.size(); ++length) {
-    EXPECT_EQ(decodeSettingString(kSerial, kDefaultSetHigh.substr(0, length)), 1) << length;
-  }
-  place(kVk240Q);
-  for (std::size_t length = 0; length < kDefaultSetLow.size(); ++length) {
-    const int32_t expected = length < 43 ? 1 : 0;  // the words behind the pre-area may be missing
-    EXPECT_EQ(decodeSettingString(kSerial, kDefaultSetLow.substr(0, length)), expected) << length;
+  // The words behind the pre-area may be missing, but no excitation.
+  for (const auto& [model, needed] : {std::pair(kVk480Q, 53U), std::pair(kVk240Q, 43U)}) {
+    place(static_cast<int16_t>(model));
+    for (std::size_t length = 0; length < 49; ++length) {
+      const std::string text(modelFamily(model).defaultSet.substr(0, length));
+      EXPECT_EQ(decodeSettingString(kSerial, text), length < needed ? 1 : 0) << text;
+    }
   }
   const auto before = gBoxTable;
   for (const int32_t serial : {int32_t{1234567}, kNoSerial}) {
@@ -210,23 +208,19 @@ TEST_F(SetDataWork, ReadsTheThreePartsAndCountsWhatCouldNotBeRead) {
 }
 
 TEST_F(SetDataWork, WritesTheDefaultsOfTheFamily) {
-  for (const int16_t model : {kVk240Q, kVk240Qe, kVk480Q, kVk480Qe}) {
+  for (const int16_t model : {kVk240Qe, kVk480Q}) {
     place(model);
-    for (int i = 0; i < 3; ++i) library().reply("END");
-    EXPECT_EQ(writeDefaultSetting(kSerial), 0);
+    library().replies = {{"ERR,21", 80}, {"END", 80}, {"?", 80}};
+    EXPECT_EQ(writeDefaultSetting(kSerial), 21 + 0 + 100);
     EXPECT_EQ(library().takeTranscript(),
               "write(2,SET" +
-                  std::string(!modelFamily(model).excitation
+                  std::string(model == kVk240Qe
                                   ? "405050505PSPSPSPSCUUUU+010N000N000N000200U000128K"
                                   : "40505050507070707CUUUU+010N000N000N000200U000128K2222") +
                   ")\nread(2)\nwrite(2,UNTue,ue,ue,ue)\nread(2)\n"
                   "write(2,CEF1.000000,1.000000,1.000000,1.000000)\nread(2)\n");
   }
-  library().reply("ERR,21");
-  library().reply("END");
-  library().reply("?");
-  EXPECT_EQ(writeDefaultSetting(kSerial), 21 + 0 + 100);
-  EXPECT_EQ(desktop_.log.size(), 2U);
+  EXPECT_EQ(desktop_.log.size(), 4U);
 }
 
 TEST(LevelField, FollowsSlopeAndFamily) {
@@ -247,28 +241,18 @@ TEST(LevelField, FollowsSlopeAndFamily) {
       });
 }
 
-TEST(SettingString, SpellsARecord) {
-  MeasureSetting record;
-  record.channelMode = 1;
-  record.range[1] = 2, record.range[2] = 5, record.range[3] = 6, record.range[4] = 11;
-  record.filter[1] = 1, record.filter[2] = 2, record.filter[3] = 3, record.filter[4] = 0;
-  record.triggerMode = 0;
-  record.triggerSlope[1] = 1, record.triggerSlope[2] = 0, record.triggerSlope[3] = 0;
-  record.sampling = 7;
-  record.dataSize = 9;
-  record.preArea = kPreAreaMax;
-  record.carrier[2] = 1;
+TEST_F(SetDataWork, SpellsARecord) {
+  const std::string text = "20306072402030401SDUUUM205+100P000N000001M100512K2122";
+  EXPECT_EQ(decodeSettingString(kSerial, text), 0);
   PerChannel<std::string> texts;
   texts[1] = "-20.5", texts[2] = "+100.0", texts[3] = "0.0", texts[4] = "abc";  // not in use
-  for (const int16_t model : {int16_t{kVk480Q}, int16_t{kNoModel}}) {
-    record.model = model;
-    EXPECT_EQ(buildSettingString(record, texts),
-              "20306072402030401SDUUUM205+100P000N000001M100512K2122");
-  }
-  record.model = kVk240Qe;  // what the family lacks is sent as 5000 ue and pass-through
-  EXPECT_EQ(buildSettingString(record, texts), "205102005031030PSSDUUU-020+100+000N000001M100512K");
+  EXPECT_EQ(buildSettingString(row(), texts), text);
+  row().model = kNoModel;
+  EXPECT_EQ(buildSettingString(row(), texts), text);
+  row().model = kVk240Qe;  // what the family lacks is sent as 5000 ue and pass-through
+  EXPECT_EQ(buildSettingString(row(), texts), "205102005031030PSSDUUU-020+100+000N000001M100512K");
   texts[3] = "abc";
-  EXPECT_EQ(buildSettingString(record, texts), std::nullopt);
+  EXPECT_EQ(buildSettingString(row(), texts), std::nullopt);
 }
 
 }  // namespace
