@@ -97,19 +97,13 @@ TEST_F(MonitorCommandTest, ANewBoxTableEndsTheWait) {
   }
 }
 
-TEST_F(MonitorCommandTest, GivesUpWhenTheProgramEndsInTheWait) {
-  script("B+");
+TEST_F(MonitorCommandTest, TheSelectorIsOneDigitAndTheProgramMayEndInTheWait) {
+  script("+B+");
   desk.yields.push_back([&] { desk.endProgram(); });
-  EXPECT_EQ(usbMON(1000001), kUsbNoReply);
-  EXPECT_EQ(library().takeTranscript(), "write(1,MON0)\nread(1)\n");
-  EXPECT_EQ(gUSBBusy, 0);
-}
-
-TEST_F(MonitorCommandTest, TheSelectorIsOneDigit) {
-  script("++");
-  EXPECT_EQ(usbMON(1000001, 3), 0);
   EXPECT_EQ(usbMON(1000001, 12), 0);
-  EXPECT_EQ(library().takeTranscript(), "write(1,MON3)\nread(1)\nwrite(1,MON1)\nread(1)\n");
+  EXPECT_EQ(usbMON(1000001, 3), kUsbNoReply);
+  EXPECT_EQ(library().takeTranscript(), "write(1,MON1)\nread(1)\nwrite(1,MON3)\nread(1)\n");
+  EXPECT_EQ(gUSBBusy, 0);
 }
 
 }  // namespace

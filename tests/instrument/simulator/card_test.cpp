@@ -68,7 +68,7 @@ TEST(Card, DirectoryIsAFatRootDirectory) {
 
 TEST(Card, HeaderTellsTheRecording) {
   Bench bench(kBox);
-  const std::string& header = bench.box(0).card.files[0].header;
+  const std::string header = bench.box(0).card.files[0].header;
   EXPECT_EQ(header,
             "DATASET DAT00001\r\nVERSION 1\r\nSERIES CH1,CH2,CH3,CH4\r\nDATE 01-05-2026\r\n"
             "TIME 05:30:00\r\nRATE 5000\r\nVERT_UNITS kN,mm,ue,V\r\nHORZ_UNITS SEC\r\n"
@@ -77,24 +77,18 @@ TEST(Card, HeaderTellsTheRecording) {
             "X_OFFSET 0,0,0,0\r\nY_OFFSET 0,0,0,0\r\nNUM_SAMPS 16384\r\n"
             "BOX_MODEL VK-480Q\r\nBOX_NUMBER 4800001\r\n"
             "CONDITIONS 40505050507070707CUUUU+010N000N000N000200U000128K2222\r\n");
-  for (const CardFile& file : bench.box(0).card.files)
-    EXPECT_GE(file.header.size(), 300U) << file.stem << ": smaller ones are not shown";
-  const std::size_t size = header.size();
   for (const char* name : {"HFLDAT00001", "HFLDAT00001.HED", "HFLDAT00001.DAT.HED"})
-    EXPECT_EQ(bench.fetch(1, name, 512, size), header) << name;
-}
-
-TEST(Card, SlopeTurnsReadingsIntoUnits) {
-  Bench bench(kBox);
+    EXPECT_EQ(bench.fetch(1, name, 512, header.size()), header) << name;
   // Tenths on channel 1, half a volt on channel 2, both on channel 3.
-  ASSERT_EQ(bench.ask(1, "SET42405240507070707FUUUU+010N000N000N000001M000001K2112"), "END");
-  ASSERT_EQ(bench.ask(1, "RUN"), "END");
+  ASSERT_EQ(bench.asks(1, "SET42405240507070707FUUUU+010N000N000N000001M000001K2112|RUN"),
+            "END END ");
   bench.clock.wait(2 * kSecond);
   ASSERT_EQ(bench.state(1), 1);
-  const std::string& header = bench.box(0).card.files.back().header;
-  EXPECT_NE(header.find("SLOPE 2.500000E-01,4.000000E-03,4.000000E-01,1.000000E+00\r\n"),
-            std::string::npos)
-      << header;
+  EXPECT_NE(bench.box(0).card.files.back().header.find(
+                "SLOPE 2.500000E-01,4.000000E-03,4.000000E-01,1.000000E+00\r\n"),
+            std::string::npos);
+  for (const CardFile& file : bench.box(0).card.files)
+    EXPECT_GE(file.header.size(), 300U) << file.stem << ": smaller ones are not shown";
 }
 
 // The raw words of a recording from the sensors' formulas, at 5000 microstrain.
@@ -115,48 +109,33 @@ int expectedReading(std::size_t channel, double seconds) {
 }
 
 TEST(Card, DataAreTheSignalsInterlaced) {
-  struct Row {
-    const char* request;
-    std::size_t channels;
-    double interval;
-    std::size_t frames;
-  };
-  const Row rows[] = {{"DATDAT00001.DAT", 4, 0.0002, 16384},
-                      {"DATDAT00002.DAT", 1, 0.000005, 32769},
-                      {"DATDAT00003.DAT", 2, 1, 7},
-                      {"DATDAT00004.DAT", 4, 0.5, 600000}};
+  const std::tuple<const char*, std::size_t, double, std::size_t> rows[] = {
+      {"DATDAT00001.DAT", 4, 0.0002, 16384},
+      {"DATDAT00002.DAT", 1, 0.000005, 32769},
+      {"DATDAT00004.DAT", 4, 0.5, 600000}};
   Bench bench(kBox);
-  for (const Row& row : rows) {
-    const std::size_t size = row.channels * row.frames * 2;
-    const std::string bytes = bench.fetch(1, row.request, 65536, size);
-    ASSERT_EQ(bytes.size(), size) << row.request;
+  for (const auto& [request, channels, interval, frames] : rows) {
+    const std::string bytes = bench.fetch(1, request, 65536, channels * frames * 2);
+    ASSERT_EQ(bytes.size(), channels * frames * 2) << request;
     std::size_t wrong = 0;
-    for (std::size_t i = 0; i < row.channels * row.frames; ++i) {
+    for (std::size_t i = 0; i < channels * frames; ++i) {
       const auto raw = static_cast<std::int16_t>(number(bytes, i * 2, 2));
-      const double at = static_cast<double>(i / row.channels) * row.interval;
+      const double at = static_cast<double>(i / channels) * interval;
       // One more or less where the formula falls between two numbers.
-      if (std::abs(raw - expectedReading(i % row.channels, at)) > 1) ++wrong;
+      if (std::abs(raw - expectedReading(i % channels, at)) > 1) ++wrong;
     }
-    EXPECT_EQ(wrong, 0U) << row.request;
+    EXPECT_EQ(wrong, 0U) << request;
   }
 }
 
-TEST(Card, BlocksOfAnyLengthGiveTheSameBytes) {
+TEST(Card, TailOfTheLastBlockIsFilled) {
   Bench bench(kBox);
-  const std::string whole = bench.fetch(1, "DATDAT00002.DAT", 131072, 65538);
-  for (const int block : {64, 65472, 65536})
-    EXPECT_EQ(bench.fetch(1, "DATDAT00002.DAT", block, 65538), whole) << block;
-  // The tail of the last block is filled, and then nothing comes.
-  ASSERT_EQ(bench.bus.writeA(1, "DATDAT00002.DAT"), 64);
-  std::string bytes(65536, 'w');
-  const auto read = [&](int size) {
-    return bench.bus.readB(1, reinterpret_cast<std::byte*>(bytes.data()), size);
-  };
-  EXPECT_EQ(read(65536), 65536);
-  bytes.assign(65536, 'w');
-  EXPECT_EQ(read(64), 64);
-  EXPECT_EQ(bytes.substr(0, 65), whole.substr(65536) + std::string(62, '\0') + "w");
-  EXPECT_EQ(read(64), kReadBFailed);
+  const std::string whole = bench.fetch(1, "DATDAT00003.DAT", 64, 28);
+  ASSERT_EQ(bench.bus.writeA(1, "DATDAT00003.DAT"), 64);
+  std::string bytes(65, 'w');
+  EXPECT_EQ(bench.bus.readB(1, reinterpret_cast<std::byte*>(bytes.data()), 64), 64);
+  EXPECT_EQ(bytes, whole + std::string(36, '\0') + "w");
+  EXPECT_EQ(bench.bus.readB(1, reinterpret_cast<std::byte*>(bytes.data()), 64), kReadBFailed);
 }
 
 TEST(Card, NamesGoOnAfterTheLast) {
@@ -173,18 +152,20 @@ TEST(Card, DamagedDirectoriesAreAsNamed) {
     if (damage > 0) bench.box(0).faults.add({FaultKind::kDirectory, "", damage, 1});
     return bench.fetch(1, "RTD", 512, kDirectoryBytes);
   };
-  const auto count = [](const std::string& image, const char* extension) {
-    int found = 0;
-    for (std::size_t at = 8; at < image.size(); at += 32)
-      found += image.compare(at, 3, extension) == 0;
-    return found;
+  // The headers and the data files.
+  const auto counts = [](const std::string& image) {
+    int headers = 0, data = 0;
+    for (std::size_t at = 8; at < image.size(); at += 32) {
+      headers += image.compare(at, 3, "HED") == 0;
+      data += image.compare(at, 3, "DAT") == 0;
+    }
+    return fmt::format("{} {}", headers, data);
   };
   const std::string good = fetch(0);
+  EXPECT_EQ(counts(good), "4 5");
   EXPECT_NE(fetch(1), good) << "random";
-  EXPECT_EQ(count(fetch(2), "DAT"), 512) << "crowded";
-  const std::string headless = fetch(3);
-  EXPECT_EQ(count(headless, "HED"), 0);
-  EXPECT_EQ(count(headless, "DAT"), count(good, "DAT"));
+  EXPECT_EQ(counts(fetch(2)), "0 512") << "crowded";
+  EXPECT_EQ(counts(fetch(3)), "0 5") << "headless";
   EXPECT_EQ(fetch(4), std::string(kDirectoryBytes, '\xE5')) << "no end";
   EXPECT_EQ(number(fetch(5), 4 * 32 + 28, 4), 0xFFFFFFFF) << "wild sizes";
   EXPECT_EQ(fetch(0), good) << "each only once";

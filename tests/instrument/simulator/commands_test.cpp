@@ -80,7 +80,6 @@ TEST_F(Commands, ClockIsSetAndRuns) {
     return bench.asks(1, "RTM" + clock + "|STA20").erase(4, 3).substr(0, 21);
   };
   EXPECT_EQ(set("26/12/31/23:59:59"), "END 26/12/31 23:59:59");
-  EXPECT_EQ(set("5/2/3/4:5:6"), "END 05/02/03 04:05:06");
   EXPECT_EQ(set("24/2/29/0:0:0"), "END 24/02/29 00:00:00");
   EXPECT_EQ(
       others(1, "64/8:ERR,20$",
@@ -98,41 +97,40 @@ TEST_F(Commands, BalanceZeroesAndCalibrationShifts) {
 
 TEST_F(Commands, ReadingFollowsRangeAndExcitation) {
   std::string readings;  // of 1200 microstrain
-  for (const char* setting : {"052", "242", "232", "032", "051", "241", "050", "150", "342"}) {
+  for (const char* setting : {"242", "232", "032", "051", "050", "150", "342"}) {
     std::string text(factoryConditions(Model::kVK480Qe));
     text.replace(1, 2, setting, 2);
     text[49] = setting[2];
-    EXPECT_EQ(bench.ask(1, "SET" + text), "END") << text;
-    readings += bench.ask(1, "MON0").substr(0, 6) + " ";
+    readings += bench.asks(1, "SET" + text + "|MON0").substr(0, 10) + " ";
   }
-  EXPECT_EQ(readings, "+01200 +12000 +10500 +01050 +00300 +03000 +00000 +01200 +12000 ");
+  EXPECT_EQ(readings,
+            "END +12000 END +10500 END +01050 END +00300 END +00000 END +01200 END +12000 ");
 }
 
 TEST_F(Commands, AreRefusedDuringMeasurement) {
   ASSERT_EQ(bench.ask(1, "RUN"), "END");
   EXPECT_EQ(others(1, "64/8:ERR,10$",
                    "RUN|SET|UNT|CEF|RTM|CHK0|BAL1|FMT|RTD|HFLDAT00001|DATDAT00001.DAT|DMC1,0|CAL0|"
-                   "SLN1234567|ADJ1,1"),
-            "");
-  for (const char* request : {"STA20", "LST0", "MON0", "FLN", "MET"})
-    EXPECT_NE(bench.ask(1, request).substr(0, 3), "ERR") << request;
+                   "SLN1234567|ADJ1,1|STA20|LST0|MON0|FLN|MET"),
+            "STA20 LST0 MON0 FLN MET ");
 }
 
 TEST_F(Commands, UpgradeModeKnowsOnlyTheUpgrade) {
   bench.load("[box 4800001]\nmodel = VK-480Q\nupgrade_mode = yes\n");
   EXPECT_EQ(bench.asks(1, "LST1|STA20|RUN|FLN|MET"), "ERR,22 ERR,22 ERR,22 ERR,22 02 ");
-  const auto image = [&](std::int64_t length) {
+  std::string replies;
+  const auto send = [&](std::int64_t length) {
     EXPECT_EQ(bench.bus.writeB(1, length), 64);
     std::string buffer(kReplyBuffer, ' ');
-    const int count = bench.bus.readA(1, buffer.data());
-    return std::to_string(count) + buffer.substr(0, buffer.find('\r'));
+    EXPECT_GT(bench.bus.readA(1, buffer.data()), 0);
+    replies += buffer.substr(0, buffer.find('\r')) + " ";
   };
-  for (const auto& [length, reply] :
-       {std::pair(393216, "5END"), {393152, "8ERR,30"}, {131072, "8ERR,30"}}) {
+  for (const std::int64_t length : {393216, 393152, 131072}) {
     EXPECT_EQ(bench.asks(1, "PWE0000006144,1|PWE0000006144,2|PWE0000006144,3"), "END END END ");
-    EXPECT_EQ(image(length), reply) << length;
+    send(length);
   }
-  EXPECT_EQ(image(393216), "8ERR,22") << "an image that nothing announced";
+  send(393216);  // an image that nothing announced
+  EXPECT_EQ(replies, "END ERR,30 ERR,30 ERR,22 ");
 }
 
 }  // namespace

@@ -23,8 +23,6 @@ std::string told(std::string_view text, Model model = Model::kVK480Q) {
 }
 
 TEST(Conditions, AreRead) {
-  EXPECT_EQ(told("40505050507070707CUUUU+010N000N000N000200U000128K2222"),
-            "4C 200 131072 0 | 5000/1/10000/U10 | 5000/1/10000/-0");
   EXPECT_EQ(told("410200501031030PSCUUUU+010N000N000N000200U000128K", Model::kVK240Q),
             "4C 200 131072 0 | 10000/1/30/U10 | 20000/1/100/-0");
   // Tenths, half a volt, off; levels in both spellings and both directions.
