@@ -64,7 +64,8 @@ void readAndCheck(const std::string& text) {
 void checkWriting() {
   dropBlanksAtLineEnds();
   const std::string written = vk::configText();
-  require(vk::fieldCount(written, '\n') + 1 == vk::configKeyCount() + 5, "a line for each key", written);
+  require(vk::fieldCount(written, '\n') + 1 == vk::configKeyCount() + 5, "a line for each key",
+          written);
   const auto captions = allCaptions();
   if (std::any_of(captions.begin(), captions.end(), holdsKey)) return;
   vk::setDefaults();

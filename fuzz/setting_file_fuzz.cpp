@@ -24,7 +24,8 @@ void checkWhole(vktest::FakeDesktop& desktop, std::string_view text) {
   if (result == 0) {
     vk::MeasureSetting checked = vk::gBoxTable[vk::kFileRow];
     require(vk::checkSetting(checked) == vk::kSettingOk, "a read record passes the check", text);
-    require(!vk::modelFamily(checked.model).excitation != vk::contains(text, "VK-480Q"), "dialect", text);
+    require(!vk::modelFamily(checked.model).excitation != vk::contains(text, "VK-480Q"), "dialect",
+            text);
     before[vk::kFileRow] = vk::gBoxTable[vk::kFileRow];
   }
   require(vk::gBoxTable == before, "only a read record changes the table", text);
