@@ -143,17 +143,15 @@ TEST(CheckSetting, AcceptsOfEachFieldAndReportsTheFirstFault) {
     EXPECT_EQ(settingErrorText(error), row.text);
   }
   EXPECT_EQ(std::string(settingErrorText(-1)) + std::string(settingErrorText(0)), "");
-  const auto resultOf = [](auto list) {
-    return [list](const std::string& value) {
-      MeasureSetting record;
-      (record.*list)[4] = value == "no number" ? NAN : *readSingle(value);
-      return textOf(checkSetting(record));
-    };
-  };
-  expectAnswers("100=0|-100=0|100.1=6|-100.1=6|no number=6",
-                resultOf(&MeasureSetting::triggerLevel));
-  expectAnswers("0.00001=0|-0.00001=0|0.000009=11|-9999999=0|10000000=11|no number=11",
-                resultOf(&MeasureSetting::coeff));
+  // Of a level, and then of a coefficient.
+  expectAnswers(
+      "100=0,0|-100=0,0|100.1=6,0|-100.1=6,0|0.00001=0,0|-0.00001=0,0|0.000009=0,11|-9999999=6,0"
+      "|10000000=6,11|no number=6,11",
+      [](const std::string& value) {
+        MeasureSetting levels, coeffs;
+        levels.triggerLevel[4] = coeffs.coeff[4] = value == "no number" ? NAN : *readSingle(value);
+        return textOf(checkSetting(levels)) + "," + textOf(checkSetting(coeffs));
+      });
 }
 
 TEST(CheckSetting, FieldsAgainstEachOther) {
