@@ -217,36 +217,27 @@ TEST_F(ConnectionTest, NoBoxEightBoxesAndTooMany) {
 }
 
 TEST_F(ConnectionTest, AFailureInTheMiddleKeepsTheRowsSoFar) {
-  const std::string first = "1: 1 1000001 2 0 1 0101 003/120\n";
-  const std::vector<std::string> rows[] = {
+  const std::tuple<const char*, std::string, std::string> rows[] = {
       {"MET", "2:LST1 2:LST2 2:MET\n" + kNotConnected, ""},
       {"FLN", goodStory("2", "1000002", "VK-480Q", kNormal, ""),
        "2: 2 1000002 2 0 1 0101 000/000\n"}};
-  for (const auto& row : rows) {
+  for (const auto& [lost, told, row] : rows) {
     SetUp();
     for (int i = 1; i <= 3; ++i) plug(goodBox(1000000 + i));
-    boxes[1][row[0]] = {"", -1005};
+    boxes[1][lost] = {"", -1005};
     EXPECT_EQ(scan(true), kStartNormal);
-    EXPECT_EQ(story(), kHead + "1:LST1 2:LST1 3:LST1 " + goodStory("1", "1000001") + row[1]);
-    EXPECT_EQ(table(), first + row[2]);
+    EXPECT_EQ(story(), kHead + "1:LST1 2:LST1 3:LST1 " + goodStory("1", "1000001") + told);
+    EXPECT_EQ(table(), "1: 1 1000001 2 0 1 0101 003/120\n" + row);
   }
 }
 
 TEST_F(ConnectionTest, AStatusThatDoesNotComeLeavesTheReplyBefore) {
-  // The reply before, the serial, what is made of the conditions, the row.
-  const std::vector<std::string> rows[] = {
-      {"03,26/01/05,09:30:00,00,1010,7654321\r\n", "7654321", kNormal, "7654321 2 0 3 1010"},
-      {"", "0000000", repair(kDefaultSetHigh), "0 2 0 1 0000"}};
-  for (const auto& row : rows) {
-    SetUp();
-    plug(goodBox(1234567));
-    boxes[0]["STA20"] = {"", -1005};
-    gLastReply = padded(row[0]);
-    EXPECT_EQ(scan(true), kStartNormal);
-    EXPECT_EQ(story(), kHead + "1:LST1 " + goodStory("1", row[1], "VK-480Q", row[2]) +
-                           "log Connected = 1Unit\n");
-    EXPECT_EQ(table(), "1: 1 " + row[3] + " 003/120\n");
-  }
+  plug(goodBox(1234567));
+  boxes[0]["STA20"] = {"", -1005};
+  gLastReply = padded("03,26/01/05,09:30:00,00,1010,7654321");
+  EXPECT_EQ(scan(true), kStartNormal);
+  EXPECT_EQ(story(), kHead + "1:LST1 " + goodStory("1", "7654321") + "log Connected = 1Unit\n");
+  EXPECT_EQ(table(), "1: 1 7654321 2 0 3 1010 003/120\n");
 }
 
 class PollTest : public ConnectionTest {

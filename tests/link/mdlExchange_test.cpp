@@ -27,17 +27,6 @@ TEST_F(ExchangeTest, NumberOfAnErrorReply) {
       [](const std::string& reply) { return std::to_string(replyErrorNumber(reply)); });
 }
 
-TEST_F(ExchangeTest, AQuestionWithoutAnAnswerIsEmpty) {
-  library().reply("0,1");
-  EXPECT_EQ(askText(2, "LST1"), padded("0,1"));
-  library().writeResults = {65};
-  EXPECT_EQ(askText(2, "LST1"), std::nullopt);
-  library().fail(0);
-  EXPECT_EQ(askText(2, "LST1"), std::nullopt);
-  EXPECT_EQ(library().takeTranscript(),
-            "write(2,LST1)\nread(2)\nwrite(2,LST1)\nwrite(2,LST1)\nread(2)\n");
-}
-
 TEST_F(ExchangeTest, KeepsTheReplyOnlyWhenGoodAndAsked) {
   const std::tuple<const char*, Keep, const char*, std::string> rows[] = {
       {"END", Keep::kReply, "", padded("END")},

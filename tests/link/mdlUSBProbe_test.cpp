@@ -49,7 +49,7 @@ a,b,c,d;1,1,1,1;lost=-1 3|a,b,c,d;1,1,1<>=-1 2|a,b,c=-1 1|a,b,c,d,e=-1 1|lost=-1
 }
 
 TEST_F(ProbeTest, ModelStopsAtTheWriteThatFails) {
-  library().writeResults = {64, 63};
+  library().writeResults = {64, 65};
   library().reply("a,b,c,d");
   EXPECT_EQ(usbProbeModel(6), -1);
   EXPECT_EQ(transcript(), kQuestions.substr(0, 36));
