@@ -47,6 +47,8 @@ TEST_F(NamingTest, TypedSeriesNamesTakeTheEncodingOfTheirHeader) {
   EXPECT_EQ(enter(0, "ひ,ü"), "1ひ,ü|CH1,CH2");
   EXPECT_EQ(enter(1, "Länge,µ"), "1ひ,ü|L\xE4nge,\xB5");
   EXPECT_EQ(enter(1, "ひ,b"), "0" + refused + "ひ,ü|L\xE4nge,\xB5");
+  EXPECT_FALSE(vk::enterFileName(list, "ひ") || vk::setAllFileNames(list, "ひ"));
+  EXPECT_TRUE(vk::enterFileName(list, "ü"));
   // One row that cannot take the text keeps it from all.
   EXPECT_FALSE(vk::setAllSeries(list, "a,ひ"));
   EXPECT_EQ(takeLog() + series(), refused + "ひ,ü|L\xE4nge,\xB5");
