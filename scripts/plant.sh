@@ -13,6 +13,7 @@ build=$copy/build/plants
 logs=$copy/logs
 home=$copy/home
 limit=${PLANT_SECONDS:-60} # of one test program; one that hangs twice has noticed something
+command -v patch >/dev/null || { echo "needs the package patch" >&2; exit 2; }
 programs='vk_logic_tests vk_sim_tests vk_window_tests'
 only=
 case ${1:-} in
