@@ -233,6 +233,14 @@ TEST_F(mdiMonitorsTest, ACascadeKeepsTheSizes) {
   EXPECT_EQ(window(1)->parentWidget()->size(), QSize(250, 140));
 }
 
+TEST_F(mdiMonitorsTest, NonsensePlacesFromAFileStayWithinReach) {
+  vk::gNumMoni[2].NUM_WIDTH = vk::gNumMoni[2].NUM_TOP = 2000000000;
+  vk::gNumMoni[2].NUM_HEIGHT = -5;
+  open(2, kFirst);
+  const QRect place = window(2)->parentWidget()->geometry();
+  EXPECT_TRUE(place.width() <= 4096 && place.top() <= 16000 && place.height() >= 1);
+}
+
 TEST_F(mdiMonitorsTest, TheFrameMakesRoomForItsFirstMonitors) {
   const auto reopen = [this](int32_t lower) {
     for (const std::size_t i : {0, 1, 2}) {
